@@ -1,0 +1,32 @@
+# The benches: one program a file, bench_<file>; the peers that they compare with are optional.
+#
+# A bench asks with __has_include which peers are there.  The floors that stand behind a call into a
+# shared library are in bench/floor.
+find_package(benchmark QUIET)
+if(NOT benchmark_FOUND OR NOT KESTREL_BITS EQUAL 64)
+  message(STATUS "No benches: they need Google Benchmark (libbenchmark-dev) and 64 bit")
+  return()
+endif()
+
+add_library(peers INTERFACE)
+find_package(absl QUIET)
+if(absl_FOUND)
+  target_link_libraries(peers INTERFACE absl::flat_hash_map)
+endif()
+find_package(PkgConfig QUIET)
+if(PkgConfig_FOUND)
+  pkg_check_modules(SIGC QUIET IMPORTED_TARGET sigc++-2.0)
+  if(SIGC_FOUND)
+    target_link_libraries(peers INTERFACE PkgConfig::SIGC)
+  endif()
+endif()
+
+kestrel_sources(sources bench/floor)
+kestrel_library(BenchFloor SHARED SOURCES ${sources})
+
+file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/bench/*.cpp")
+foreach(source IN LISTS sources)
+  cmake_path(GET source STEM stem)
+  kestrel_program(bench_${stem} SOURCES "${source}"
+    LINK benchmark::benchmark peers BenchFloor engines KestrelTypes)
+endforeach()

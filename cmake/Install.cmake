@@ -1,0 +1,48 @@
+# Installing: libraries, headers in one include root, the CMake package and the pkg-config file.
+include(CMakePackageConfigHelpers)
+set(headers_to include/kestreltypes)
+
+set(libraries)
+foreach(name IN ITEMS Mox Xdk PlatformModels KestrelTypes)
+  get_target_property(kind ${name} TYPE)
+  get_target_property(imported ${name} IMPORTED)
+  if(kind STREQUAL "SHARED_LIBRARY" AND NOT imported)
+    list(APPEND libraries ${name})
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    target_include_directories(${name} INTERFACE "$<INSTALL_INTERFACE:${headers_to}>")
+    target_compile_features(${name} INTERFACE cxx_std_20)
+  endif()
+endforeach()
+if(NOT libraries)
+  return()
+endif()
+
+install(TARGETS ${libraries} EXPORT KestrelTypesTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+if(TARGET kestrel)
+  set_target_properties(kestrel PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  install(TARGETS kestrel RUNTIME DESTINATION bin)
+endif()
+
+# What the include roots of the build hold goes into one; tags are for generated sources alone.
+set(only_headers FILES_MATCHING PATTERN "*.h" PATTERN "*.tags.h" EXCLUDE
+  REGEX "${kestrel_test_file}" EXCLUDE)
+if(KESTREL_STANDIN)
+  install(DIRECTORY "${PROJECT_SOURCE_DIR}/platform/" DESTINATION ${headers_to} ${only_headers})
+endif()
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/src-includes/" DESTINATION ${headers_to} ${only_headers})
+install(DIRECTORY "${KESTREL_GENERATED}/" DESTINATION ${headers_to} ${only_headers})
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/frame" DESTINATION ${headers_to} ${only_headers})
+
+set(package_to ${CMAKE_INSTALL_LIBDIR}/cmake/KestrelTypes)
+install(EXPORT KestrelTypesTargets NAMESPACE KestrelTypes:: DESTINATION ${package_to})
+configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/KestrelTypesConfig.cmake.in"
+  "${CMAKE_BINARY_DIR}/KestrelTypesConfig.cmake" INSTALL_DESTINATION ${package_to})
+write_basic_package_version_file("${CMAKE_BINARY_DIR}/KestrelTypesConfigVersion.cmake"
+  COMPATIBILITY SameMajorVersion ARCH_INDEPENDENT)
+install(FILES "${CMAKE_BINARY_DIR}/KestrelTypesConfig.cmake"
+  "${CMAKE_BINARY_DIR}/KestrelTypesConfigVersion.cmake" DESTINATION ${package_to})
+
+configure_file("${PROJECT_SOURCE_DIR}/cmake/kestreltypes.pc.in"
+  "${CMAKE_BINARY_DIR}/kestreltypes.pc" @ONLY)
+install(FILES "${CMAKE_BINARY_DIR}/kestreltypes.pc"
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

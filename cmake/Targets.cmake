@@ -1,0 +1,44 @@
+# The few functions by which targets are made, so that each of them reads as one line.
+
+# Unit tests, and the language that they share, stand beside their files: ScalarTest.cpp,
+# TestLanguage.h.
+set(kestrel_test_file "/([^/]*Test|Test[A-Z][^/]*)\\.(cpp|h)$")
+
+# Sets `out` to the sources below the folders, in the order of the folders and by name in each, but
+# not those of tests.
+function(kestrel_sources out)
+  set(all)
+  foreach(folder IN LISTS ARGN)
+    file(GLOB_RECURSE found CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp")
+    list(FILTER found EXCLUDE REGEX "${kestrel_test_file}")
+    list(APPEND all ${found})
+  endforeach()
+  set(${out} ${all} PARENT_SCOPE)
+endfunction()
+
+# Makes library `name` of kind SHARED or STATIC from SOURCES, linked with LINK (for all who use it)
+# and LINK_OWN (for itself alone).  Without any source it is an interface library, so that a folder
+# may be empty.
+function(kestrel_library name kind)
+  cmake_parse_arguments(lib "" "" "SOURCES;LINK;LINK_OWN" ${ARGN})
+  if(NOT lib_SOURCES)
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE ${lib_LINK})
+    return()
+  endif()
+  add_library(${name} ${kind} ${lib_SOURCES})
+  target_link_libraries(${name} PUBLIC ${lib_LINK} PRIVATE ${lib_LINK_OWN} house)
+  set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  if(kind STREQUAL "SHARED")
+    target_link_options(${name} PRIVATE -Wl,-z,defs)
+  endif()
+endfunction()
+
+# Makes program `name` from SOURCES, linked with LINK; without any source there is none.
+function(kestrel_program name)
+  cmake_parse_arguments(program "" "" "SOURCES;LINK" ${ARGN})
+  if(program_SOURCES)
+    add_executable(${name} ${program_SOURCES})
+    target_link_libraries(${name} PRIVATE ${program_LINK} house)
+  endif()
+endfunction()
