@@ -1,0 +1,102 @@
+// The runtime's exceptions, the calls that raise them, and the expectation of one.
+#pragma once
+
+#include "Mox/String8.h"
+
+#include <exception>
+
+namespace Mox {
+
+/// Base of all runtime exceptions: a message and a set of ids.
+class Exception : public std::exception {
+ public:
+  /// Number of a kind of exception, 0 to 63.  0 is no kind: it is never a member of a set.
+  using Id = U32;
+
+  /// A set of exception ids.
+  class IdBitArray {
+   public:
+    /// Enters an id; 0 enters nothing, one above 63 ends the process by assertion.
+    void add(Id id) noexcept;
+    bool isMember(Id id) const noexcept;
+
+   private:
+    U64 bits_ = 0;
+  };
+
+  static constexpr Id rangeId = 1;
+  static constexpr Id internalId = 2;
+  static constexpr Id nameInUseId = 3;
+  static constexpr Id attrLogEntityId = 47;
+
+  Exception(String8 const& message, IdBitArray const& ids, bool expected = false);
+  ~Exception() override;
+  Exception(Exception const&) = default;
+
+  String8 const& message() const noexcept { return message_; }
+  IdBitArray const& ids() const noexcept { return ids_; }
+  /// Raised where an `Expect` for one of its ids stood open: no news for a log.
+  bool expected() const noexcept { return expected_; }
+  char const* what() const noexcept override { return message_.charPtr(); }
+
+ private:
+  String8 message_;
+  IdBitArray ids_;
+  bool expected_;
+};
+
+/// A value is out of range, or a text can't be read.  Each kind enters its own id into the set.
+class RangeException : public Exception {
+ public:
+  explicit RangeException(String8 const& message, IdBitArray ids = {});
+};
+
+/// An internal invariant of the model failed.
+class InternalException : public Exception {
+ public:
+  explicit InternalException(String8 const& message, IdBitArray ids = {});
+};
+
+/// A name is taken with different constructor parameters.
+class NameInUseException : public Exception {
+ public:
+  explicit NameInUseException(String8 const& message, IdBitArray ids = {});
+};
+
+/// A message of the attribute log refers to an entity that can't be used.
+class AttrLogEntityException : public Exception {
+ public:
+  explicit AttrLogEntityException(String8 const& message, IdBitArray ids = {});
+};
+
+// The raisers that the model calls; none returns.
+[[noreturn]] void throwRangeException(char const* message);
+[[noreturn]] void throwRangeException(String8 const& message);
+[[noreturn]] void throwInternalException(char const* message);
+[[noreturn]] void throwInternalException(String8 const& message);
+[[noreturn]] void throwNameInUseException(String8 const& message);
+
+/// Says, for the scope that it lives in, which exception id the code inside expects.  Scopes nest
+/// on one thread.  Id 0 expects none, and hides the scopes around it: it stands around every call
+/// of a notification hook, so that what the mutator's caller expects isn't taken to be the hook's.
+class Expect {
+ public:
+  explicit Expect(Exception::Id id) noexcept : id_(id), outer_(innermost_) { innermost_ = this; }
+  ~Expect() { innermost_ = outer_; }
+  Expect(Expect const&) = delete;
+  Expect& operator=(Expect const&) = delete;
+
+  /// The id of the innermost open scope of this thread; 0 where there is none.
+  static Exception::Id innermost() noexcept { return innermost_ ? innermost_->id_ : 0; }
+  /// True while an open scope of this thread, inside the innermost of id 0, expects an id of the
+  /// set.
+  static bool isExpected(Exception::IdBitArray const& ids) noexcept;
+
+ private:
+  Exception::Id id_;
+  Expect* outer_;
+
+  [[gnu::tls_model("initial-exec")]] static thread_local constinit Expect* innermost_;
+};
+
+}  // namespace Mox

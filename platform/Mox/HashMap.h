@@ -1,0 +1,222 @@
+// The typed face of hash maps, and the iterators that survive any change of their map.
+#pragma once
+
+#include <cstddef>
+#include <iterator>
+#include <type_traits>
+
+#include "Mox/HashMapGeneric.h"
+
+namespace Mox {
+
+/// The position of a change-proof walk: it holds its node, and finds its way on by the order of the
+/// map when the map has changed since it last looked.  A removed element isn't seen unless it is the
+/// current one, which stays readable; an inserted one is seen if it falls behind the position.  The
+/// map must outlive the walk.
+class HashMapIteratorGeneric {
+ public:
+  HashMapIteratorGeneric() = default;
+
+  explicit operator bool() const noexcept { return static_cast<bool>(node_); }
+  /// Steps to the next element.  At the end, nothing.
+  void advance() {
+    if (!node_) return;
+    if (map_->changes() == changes_) [[likely]] {
+      PtrInterface* next = map_->next(node_.ptr());
+      node_ = next ? next : map_->findNextBucket(&bucket_);
+    } else {
+      changes_ = map_->changes();
+      node_ = map_->findNextG(node_.ptr(), &bucket_);
+    }
+  }
+  /// True for two that stand on the same node, or both at the end.
+  bool operator==(HashMapIteratorGeneric const& other) const noexcept {
+    return node_ == other.node_;
+  }
+
+ protected:
+  explicit HashMapIteratorGeneric(HashMapGeneric const& map)
+      : map_(&map), changes_(map.changes()), node_(map.findNextG(nullptr, &bucket_)) {}
+  HashMapIteratorGeneric(HashMapGeneric const& map, void const* key, U32 hash)
+      : map_(&map), changes_(map.changes()), node_(map.startAtHash(key, hash, &bucket_)) {}
+
+  HashMapGeneric const* map_ = nullptr;
+  int bucket_ = -1;
+  U32 changes_ = 0;
+  Ptr<PtrInterface> node_;
+};
+
+/// A hash map of counted nodes of type `Node`, keyed by `Key`.  `Value` is what an element stands
+/// for: the value, or the entity, which may be the node itself.
+///
+/// The keys' operations are those of `KeyOps<Key>`, the nodes' of `NodeOps<Node>`.  References and
+/// raw pointers to a node are good as long as it is in the map or held.  Complexity is constant on
+/// average where nothing else is said.
+template <class Node, class Key, class Value>
+class HashMap : public HashMapGeneric {
+ public:
+  /// `size` is the first bucket count, rounded up to a power of two.
+  explicit HashMap(U32 size = 4) : HashMapGeneric(size) {
+    constexpr std::size_t offset = NodeOps<Node>::nextOffset();
+    static_assert(offset <= 0xFF, "the next-link stands too far behind the node's start");
+    keys_ = HashMapVTable<Node, Key>::instance();
+    nextOffset_ = offset;
+  }
+  /// A copy has the bucket count of its source, and nodes of its own.
+  HashMap(HashMap const& other) : HashMap(other.bucketCount()) { copyNodes(other); }
+  HashMap& operator=(HashMap const& other) {
+    if (this == &other) return *this;
+    emptyAllBuckets();
+    setSize0(other.bucketCount());
+    copyNodes(other);
+    return *this;
+  }
+
+  /// The node under `key`, uncounted; null where there is none.
+  Node* find(Key const& key) const noexcept {
+    if constexpr (HashKeepingNode<Node>) {
+      U32 const hash = KeyOps<Key>::hash(key);
+      for (PtrInterface* at = head(hash & mask()); at; at = nextOf(at))
+        if (typed(at)->keyHash() == hash && equals(key, at)) return typed(at);
+    } else {
+      for (PtrInterface* at = head(KeyOps<Key>::hash(key) & mask()); at; at = nextOf(at))
+        if (equals(key, at)) return typed(at);
+    }
+    return nullptr;
+  }
+  bool isMember(Key const& key) const noexcept { return find(key) != nullptr; }
+  /// The node under `key`, counted; null where there is none.
+  Ptr<Node> operator[](Key const& key) const { return Ptr<Node>(find(key)); }
+
+  /// Inserts a node whose key is absent.
+  void newMember(Ptr<Node> const& node) {
+    if (count_ >= bucketCount()) [[unlikely]] grow();
+    Ptr<PtrInterface>* place = headLink(nodeHash<Key>(*node));
+    while (*place && !precedes(*node, *typed(place->ptr())))
+      place = &NodeOps<Node>::next(*typed(place->ptr()));
+    linkIn(*place, node);
+  }
+  /// Removes a node, which lives on as long as someone holds it.  A node that isn't in the map is
+  /// left alone.
+  void deleteMember(Ptr<Node> const& node) {
+    if (node) unlink(nodeHash<Key>(*node), node.ptr());
+  }
+  /// Removes and returns the node under `key`; null, and nothing done, where there is none.
+  Ptr<Node> deleteKey(Key const& key) {
+    Ptr<Node> const node = find(key);
+    deleteMember(node);
+    return node;
+  }
+
+  /// A change-proof walk.
+  template <class Element>
+  class IteratorOf : public HashMapIteratorGeneric {
+   public:
+    IteratorOf() = default;
+    /// Starts at the first element.
+    explicit IteratorOf(HashMap const& map) : HashMapIteratorGeneric(map) {}
+    /// Starts at `key`, or where it is absent at the first element behind its place.
+    IteratorOf(HashMap const& map, Key const& key)
+        : HashMapIteratorGeneric(map, &key, bitReverse(KeyOps<Key>::hash(key))) {}
+    /// A reading walk from a writing one.
+    IteratorOf(IteratorOf<Node> const& other)
+      requires(!std::is_same_v<Element, Node>)
+        : HashMapIteratorGeneric(other) {}
+
+    /// The current node, which this iterator holds; null at the end.  The operations below need one.
+    Element* node() const noexcept { return typed(node_.ptr()); }
+    decltype(auto) key() const { return NodeOps<Node>::key(*typed(node_.ptr())); }
+    /// The element's value; of entities that are their own nodes, the entity.
+    decltype(auto) value() const {
+      if constexpr (std::is_same_v<std::remove_const_t<Element>, Value>)
+        return Ptr<Element>(node());
+      else
+        return node()->value();
+    }
+    IteratorOf& operator++() {
+      advance();
+      return *this;
+    }
+    /// True if the walked map has `key` now.
+    bool isMemberOf(Key const& key) const noexcept {
+      return map_ && static_cast<HashMap const*>(map_)->isMember(key);
+    }
+  };
+  using Iterator = IteratorOf<Node>;
+  using IteratorConst = IteratorOf<Node const>;
+
+  Iterator iterator() { return Iterator(*this); }
+  IteratorConst iteratorConst() const { return IteratorConst(*this); }
+  /// A walk from `key`, or where it is absent from the first element behind its place.
+  Iterator iteratorAt(Key const& key) { return Iterator(*this, key); }
+  IteratorConst iteratorConstAt(Key const& key) const { return IteratorConst(*this, key); }
+
+  /// The engine's own walk, in the same order and without counts: the map mustn't change meanwhile.
+  class RawIterator {
+   public:
+    using value_type = Node;
+    using difference_type = std::ptrdiff_t;
+
+    RawIterator() = default;
+    explicit RawIterator(HashMap const& map) : map_(&map) { settle(map.head(0)); }
+
+    Node& operator*() const noexcept { return *typed(node_); }
+    Node* operator->() const noexcept { return typed(node_); }
+    RawIterator& operator++() noexcept {
+      if (PtrInterface* const next = nextOf(node_)) {
+        node_ = next;
+      } else {
+        bucket_ = map_->bucketAfter(bucket_);
+        settle(bucket_ < map_->bucketCount() ? map_->head(bucket_) : nullptr);
+      }
+      return *this;
+    }
+    RawIterator operator++(int) noexcept {
+      RawIterator const before = *this;
+      ++*this;
+      return before;
+    }
+    bool operator==(RawIterator const& other) const noexcept { return node_ == other.node_; }
+    bool operator==(std::default_sentinel_t) const noexcept { return node_ == nullptr; }
+
+   private:
+    void settle(PtrInterface* at) noexcept {
+      while (!at && (bucket_ = map_->bucketAfter(bucket_)) < map_->bucketCount())
+        at = map_->head(bucket_);
+      node_ = at;
+    }
+
+    HashMap const* map_ = nullptr;
+    U32 bucket_ = 0;
+    PtrInterface* node_ = nullptr;
+  };
+  RawIterator begin() const { return RawIterator(*this); }
+  std::default_sentinel_t end() const noexcept { return {}; }
+
+  /// The first node in the order of the walk, uncounted; null in an empty map.
+  Node* first() const { return after(nullptr); }
+  /// The node behind `node`, which may have been removed meanwhile; null at the end.
+  Node* after(Node const* node) const {
+    int bucket = -1;
+    return typed(findNextG(node, &bucket));
+  }
+
+ private:
+  static Node* typed(PtrInterface* node) noexcept { return static_cast<Node*>(node); }
+  static PtrInterface* nextOf(PtrInterface const* node) noexcept {
+    return NodeOps<Node>::next(static_cast<Node const&>(*node));
+  }
+  static bool equals(Key const& key, PtrInterface* node) noexcept {
+    return KeyOps<Key>::equals(key, NodeOps<Node>::key(*typed(node)));
+  }
+  static bool precedes(Node const& a, Node const& b) noexcept {
+    return KeyOps<Key>::less(NodeOps<Node>::key(a), NodeOps<Node>::key(b));
+  }
+  Ptr<PtrInterface>* headLink(U32 hash) noexcept { return &buckets_[hash & mask()]; }
+
+  void copyNodes(HashMap const& other) {
+    for (Node const& node : other) newMember(new Node(node.key(), node.value()));
+  }
+};
+
+}  // namespace Mox

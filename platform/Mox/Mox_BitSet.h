@@ -1,0 +1,21 @@
+// The flag word of a notifiee.
+#pragma once
+
+#include "Mox/Integers.h"
+
+/// The flag word of a notifiee.  What its bits mean is the business of the notifiee's kind.
+class Mox_BitSet {
+ public:
+  constexpr Mox_BitSet() = default;
+  constexpr explicit Mox_BitSet(U32 bits) : bits_(bits) {}
+
+  constexpr U32 bits() const { return bits_; }
+  constexpr bool has(U32 mask) const { return (bits_ & mask) != 0; }
+  constexpr void bitsIs(U32 mask, bool on) { bits_ = on ? bits_ | mask : bits_ & ~mask; }
+
+  constexpr bool operator==(Mox_BitSet const& other) const = default;
+  constexpr bool operator!=(Mox_BitSet const& other) const = default;
+
+ private:
+  U32 bits_ = 0;
+};
