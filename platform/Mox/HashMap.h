@@ -119,8 +119,9 @@ class HashMap : public HashMapGeneric {
     IteratorOf(HashMap const& map, Key const& key)
         : HashMapIteratorGeneric(map, &key, bitReverse(KeyOps<Key>::hash(key))) {}
     /// A reading walk from a writing one.
-    IteratorOf(IteratorOf<Node> const& other)
-      requires(!std::is_same_v<Element, Node>)
+    template <std::same_as<Node> Other>
+      requires(!std::same_as<Element, Node>)
+    IteratorOf(IteratorOf<Other> const& other)
         : HashMapIteratorGeneric(other) {}
 
     /// The current node, which this iterator holds; null at the end.  The operations below need one.

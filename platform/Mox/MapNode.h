@@ -25,8 +25,8 @@ class MapNode : public PtrInterface {
   friend struct NodeOps;
 
   Key key_;
+  Ptr<PtrInterface> moxNext_;  // ahead of the value: what a search reads stands together
   Value value_;
-  Ptr<PtrInterface> moxNext_;
 };
 
 template <StringKey Key, class Value>
@@ -47,9 +47,9 @@ class MapNode<Key, Value> : public PtrInterface {
   friend struct NodeOps;
 
   U32 hash_;  // first: it fills the gap behind the reference word
+  Ptr<PtrInterface> moxNext_;
   Key key_;
   Value value_;
-  Ptr<PtrInterface> moxNext_;
 };
 
 /// A node that keeps its key's hash.

@@ -103,8 +103,9 @@ class RbTreeMap : public RbTreeMapGeneric {
     IteratorOf(RbTreeMap const& map, Key const& key)
         : map_(&map), changes_(map.changes()), node_(map.atOrBehind(key)) {}
     /// A reading walk from a writing one.
-    IteratorOf(IteratorOf<Node> const& other)
-      requires(!std::is_same_v<Element, Node>)
+    template <std::same_as<Node> Other>
+      requires(!std::same_as<Element, Node>)
+    IteratorOf(IteratorOf<Other> const& other)
         : map_(other.map_), changes_(other.changes_), node_(other.node_) {}
 
     explicit operator bool() const noexcept { return static_cast<bool>(node_); }

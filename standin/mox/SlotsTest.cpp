@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "Mox/Entity.h"
+#include "Mox/HashMapVTable.h"
 
 namespace Mox {
 namespace {
@@ -85,6 +86,13 @@ TEST(SlotsTest, Notifiee) {
   };
   std::size_t expected = slotOf(&PtrInterface::fwkType) + destructorEntries;
   for (std::size_t slot : slots) EXPECT_EQ(slot, ++expected);
+}
+
+TEST(SlotsTest, KeyOperationsOfHashMaps) {
+  EXPECT_EQ(slotOf(&HashMapVTableGeneric::hash), 0u);
+  EXPECT_EQ(slotOf(&HashMapVTableGeneric::keyEquals), 1u);
+  EXPECT_EQ(slotOf(&HashMapVTableGeneric::keyLessThan), 2u);
+  EXPECT_EQ(slotOf(&HashMapVTableGeneric::setNext), 3u);
 }
 
 }  // namespace

@@ -226,11 +226,11 @@ TEST(SwiftlogTest, LongTextsAreCut) {
 
 TEST(SwiftlogTest, ImpossibleSizesAreRefused) {
   EXPECT_EQ(refusal([] {
-              TraceFile({0, 4095});
+              TraceFile(TraceFileSizes{0, 4095});
             }),
             "Swiftlog: a ring of 4095 bytes is smaller than 4096");
   EXPECT_EQ(refusal([] {
-              TraceFile({0, 0x10000001});
+              TraceFile(TraceFileSizes{0, 0x10000001});
             }),
             "Swiftlog: more room than 268435456 bytes");
 }
