@@ -1,0 +1,73 @@
+// What the real templates make of the schema that uses every shape, compared with the texts in
+// tests/golden/.  After a deliberate change of templates: run the compiler over
+// tests/everyShape.schema with `--out tests/golden --mox-type`, and read the difference.
+#include "tools/schemac/Files.h"
+#include "tools/schemac/Generator.h"
+#include "tools/schemac/Parser.h"
+#include "tools/schemac/Vocabulary.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <set>
+#include <sstream>
+
+namespace schemac {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path const root = KESTREL_SOURCE_DIR;
+
+Schema everyShape() {
+  Diagnostics diagnostics;
+  fs::path const path = root / "tests" / "everyShape.schema";
+  Schema schema = parse(path.string(), readFile(path).value_or(""), diagnostics);
+  EXPECT_EQ(diagnostics.text(), "");
+  return schema;
+}
+
+std::vector<Output> generated() {
+  Library const library = loadLibrary(root / "tools" / "schemac" / "templates");
+  return generate(library, {everyShape()}, {.set = true});
+}
+
+TEST(GoldenTest, EachFileIsAsItWas) {
+  for (Output const& output : generated())
+    EXPECT_EQ(output.text,
+              readFile(root / "tests" / "golden" / output.path).value_or("no such file"))
+        << output.path;
+}
+
+TEST(GoldenTest, NoFileIsLeftBehind) {
+  std::set<fs::path> expected;
+  for (Output const& output : generated()) expected.insert(output.path);
+  for (auto const& entry : fs::recursive_directory_iterator(root / "tests" / "golden")) {
+    fs::path const path = fs::relative(entry.path(), root / "tests" / "golden");
+    if (entry.is_regular_file()) EXPECT_EQ(expected.count(path), 1u) << path;
+  }
+}
+
+TEST(GoldenTest, EveryKindShapeAndOptionIsInTheSchema) {
+  std::set<std::string> used;
+  auto const note = [&used](std::string_view place, Options const& options) {
+    used.insert(std::string(place));
+    for (auto const& [name, argument] : options) used.insert(std::string(place) + " " + name);
+  };
+  for (Type const& type : everyShape().types) {
+    note(kindName(type.kind), type.options);
+    for (Row const& row : type.rows) note(row.shape->name, row.options);
+  }
+  for (Shape const& shape : shapes())
+    EXPECT_TRUE(used.count(std::string(shape.name))) << shape.name;
+  for (Option const& option : options()) {
+    std::istringstream places{std::string(option.places)};
+    for (std::string place; places >> place;)
+      if (place != "extern" && option.name != "custom")
+        EXPECT_TRUE(used.count(place + " " + std::string(option.name))) << place << option.name;
+  }
+}
+
+}  // namespace
+
+}  // namespace schemac

@@ -1,0 +1,82 @@
+// A whole run of the compiler.
+#include "tools/schemac/Run.h"
+
+#include "tools/schemac/Checker.h"
+#include "tools/schemac/CommandLine.h"
+#include "tools/schemac/Files.h"
+#include "tools/schemac/Generator.h"
+#include "tools/schemac/Parser.h"
+
+namespace schemac {
+
+namespace {
+
+constexpr int done = 0;
+constexpr int faulty = 1;
+constexpr int wrongUsage = 2;
+
+std::vector<Schema> readSchemas(std::vector<std::string> const& paths, Diagnostics& diagnostics) {
+  std::vector<Schema> result;
+  for (std::string const& path : paths) {
+    auto source = readFile(path);
+    if (source)
+      result.push_back(parse(path, *source, diagnostics));
+    else
+      diagnostics.error({path, 1, 1}, "can't read this file");
+  }
+  return result;
+}
+
+void print(std::vector<Output> const& outputs, std::string const& folder, std::ostream& out) {
+  for (Output const& output : outputs)
+    out << (std::filesystem::path(folder) / output.path).string() << "\n";
+}
+
+int write(std::vector<Output> const& outputs, std::string const& folder, std::ostream& err) {
+  int result = done;
+  for (Output const& output : outputs) {
+    std::filesystem::path const path = std::filesystem::path(folder) / output.path;
+    if (writeIfChanged(path, output.text)) continue;
+    err << errorLine({path.string(), 1, 1}, "can't write this file") << "\n";
+    result = faulty;
+  }
+  return result;
+}
+
+int compile(CommandLine const& asked, std::ostream& out, std::ostream& err) {
+  Library const library = loadLibrary(asked.templates);
+  Diagnostics diagnostics;
+  std::vector<Schema> const schemas = readSchemas(asked.schemas, diagnostics);
+  if (!diagnostics.failed()) check(library.builtin, schemas, diagnostics);
+  if (diagnostics.failed()) {
+    err << diagnostics.text();
+    return faulty;
+  }
+  auto outputs = generate(library, schemas, {asked.moxType, asked.list});
+  if (!asked.list) return write(outputs, asked.out, err);
+  print(outputs, asked.out, out);
+  return done;
+}
+
+}  // namespace
+
+int run(std::vector<std::string> const& arguments, std::ostream& out, std::ostream& err) {
+  std::string fault;
+  auto asked = parseArguments(arguments, fault);
+  if (!asked) {
+    err << "schemac: error: " << fault << "\n" << usage;
+    return wrongUsage;
+  }
+  if (asked->help || asked->version) {
+    out << (asked->help ? usage : "schemac 1.0\n");
+    return done;
+  }
+  try {
+    return compile(*asked, out, err);
+  } catch (TemplateError const& error) {
+    err << errorLine(error.at, error.what) << "\n";
+    return faulty;
+  }
+}
+
+}  // namespace schemac

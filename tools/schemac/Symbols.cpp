@@ -1,0 +1,73 @@
+// The types that a schema can name.
+#include "tools/schemac/Symbols.h"
+
+namespace schemac {
+
+namespace {
+
+// "A::B" of "A::B::C"; "" of "A".
+std::string enclosing(std::string const& space) {
+  std::size_t colon = space.rfind("::");
+  return colon == std::string::npos ? "" : space.substr(0, colon);
+}
+
+std::string lastName(std::string const& name) {
+  std::size_t colon = name.rfind("::");
+  return colon == std::string::npos ? name : name.substr(colon + 2);
+}
+
+}  // namespace
+
+Symbols::Symbols(Schema const& builtin, Schema const& schema) {
+  addExterns(builtin);
+  addExterns(schema);
+  for (Type const& type : schema.types) {
+    std::string name = qualified(type.space, type.name);
+    symbols_[name] = {
+        type.kind, name,   type.space, type.name, outputPath(type.space, type.name) + ".h",
+        &type,     nullptr};
+  }
+}
+
+void Symbols::addExterns(Schema const& schema) {
+  for (Extern const& type : schema.externs) {
+    auto header = type.options.find("header");
+    symbols_[type.name] = {type.kind,
+                           type.name,
+                           enclosing(type.name),
+                           lastName(type.name),
+                           header == type.options.end() ? "" : header->second.text,
+                           nullptr,
+                           &type};
+  }
+}
+
+Symbol const* Symbols::find(std::string space, std::string const& name) const {
+  for (;; space = enclosing(space)) {
+    auto found = symbols_.find(qualified(space, name));
+    if (found != symbols_.end()) return &found->second;
+    if (space.empty()) return nullptr;
+  }
+}
+
+Type const* Symbols::ownBase(Type const& type) const {
+  Symbol const* base = type.base ? find(type.space, *type.base) : nullptr;
+  return base ? base->type : nullptr;
+}
+
+TypeUse const* Symbols::attributeType(Type const& type, std::string const& name) {
+  for (Argument const& argument : type.arguments)
+    if (argument.name == name) return &argument.type;
+  for (Row const& row : type.rows)
+    if (row.name == name && row.type && !row.key) return &*row.type;
+  return nullptr;
+}
+
+std::string outputPath(std::string const& space, std::string const& name) {
+  std::string path = qualified(space, name);
+  for (std::size_t colon = path.find("::"); colon != std::string::npos; colon = path.find("::"))
+    path.replace(colon, 2, "/");
+  return path;
+}
+
+}  // namespace schemac
