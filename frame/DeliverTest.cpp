@@ -1,0 +1,164 @@
+// Delivery: who hears, in which order, and what an observer may do meanwhile.
+#include "frame/Deliver.h"
+#include "frame/TestLanguage.h"
+
+#include <gtest/gtest.h>
+
+namespace frametest {
+namespace {
+
+/// An entity with any number of observers, which write into one book.
+class Stage {
+ public:
+  PlainListener& join(char const* name) {
+    Mox::Ptr<PlainListener> const actor = new PlainListener;
+    watch(actor, entity);
+    actor->then = [this, name] { book += std::string(name) + " "; };
+    actors.push_back(actor);
+    return *actor;
+  }
+  std::string change() {
+    entity->levelIs(++value);
+    return std::exchange(book, "");
+  }
+
+  Mox::Ptr<everyShape::Every> entity = new everyShape::Every("every", 1);
+  std::vector<Mox::Ptr<PlainListener>> actors;
+  std::string book;
+  U32 value = 0;
+};
+
+TEST(DeliverTest, ObserversHearInTheOrderOfRegistration) {
+  Stage stage;
+  for (char const* name : {"a", "b", "c"}) stage.join(name);
+  EXPECT_EQ(stage.change(), "a b c ");
+}
+
+TEST(DeliverTest, HookThatThrowsIsReportedToItsOwnObserverAndTheOthersHear) {
+  Stage stage;
+  auto& thrower = stage.join("a");
+  stage.join("b");
+  stage.join("c");
+  thrower.then = [] { throw 1; };
+  EXPECT_EQ(stage.change(), "b c ");
+  EXPECT_EQ(thrower.failures, std::vector<Mox::AttributeId>{259});
+  EXPECT_EQ(stage.entity->level(), 1u);
+}
+
+TEST(DeliverTest, ExceptionOutOfTheReportEndsTheDeliveryAndKeepsTheValue) {
+  class Hopeless : public PlainListener {
+   public:
+    void onLevel() override { throw 1; }
+    void onNotificationException(Mox::AttributeId) override { throw 2; }
+  };
+  Stage stage;
+  Mox::Ptr<Hopeless> const hopeless = new Hopeless;
+  watch(hopeless, stage.entity);
+  auto& second = stage.join("b");
+  EXPECT_THROW(stage.change(), int);
+  EXPECT_EQ(stage.entity->level(), 1u);
+  EXPECT_EQ(stage.book, "");
+  EXPECT_EQ(hopeless->references(), 1u) << "the snapshot must have let go";
+  EXPECT_EQ(second.references(), 1u);
+}
+
+TEST(DeliverTest, ObserverThatOnlyTheSnapshotHoldsIsPassedOver) {
+  Stage stage;
+  auto& first = stage.join("a");
+  stage.join("b");
+  stage.join("c");
+  first.then = [&] {
+    stage.book += "a ";
+    if (stage.actors.size() == 3) stage.actors.erase(stage.actors.begin() + 1);
+  };
+  EXPECT_EQ(stage.change(), "a c ");
+}
+
+TEST(DeliverTest, FirstObserverIsCalledEvenIfNobodyHoldsIt) {
+  Stage stage;
+  Mox::Ptr<PlainListener> first = new PlainListener;
+  watch(first, stage.entity);
+  std::string heard;
+  first->then = [&] { heard += "first"; };
+  auto* const raw = first.ptr();
+  raw->isWeakReferenceIs(true);
+  // Only the list knows it from here on, which owns no reference.
+  raw->referencesInc();
+  first = nullptr;
+  stage.change();
+  EXPECT_EQ(heard, "first");
+  raw->notifierIs(nullptr);
+  raw->referencesDec();
+}
+
+TEST(DeliverTest, ObserverThatRegistersMeanwhileHearsOfTheNextChange) {
+  Stage stage;
+  auto& first = stage.join("a");
+  first.then = [&] {
+    stage.book += "a ";
+    if (stage.actors.size() == 1) stage.join("late");
+  };
+  EXPECT_EQ(stage.change(), "a ");
+  EXPECT_EQ(stage.change(), "a late ");
+}
+
+TEST(DeliverTest, ObserverThatUnregistersMeanwhileIsStillCalled) {
+  Stage stage;
+  auto& first = stage.join("a");
+  stage.join("b");
+  first.then = [&] {
+    stage.book += "a ";
+    stage.actors[1]->isRegisteredNotifieeIs(false);
+  };
+  EXPECT_EQ(stage.change(), "a b ");
+  EXPECT_EQ(stage.change(), "a ");
+}
+
+TEST(DeliverTest, HookMayChangeTheSameEntity) {
+  Stage stage;
+  auto& first = stage.join("a");
+  stage.join("b");
+  first.then = [&] {
+    stage.book += "a" + std::to_string(stage.entity->level()) + " ";
+    if (stage.entity->level() < 3) stage.entity->levelIs(3);
+  };
+  EXPECT_EQ(stage.change(), "a1 a3 b b ");
+}
+
+TEST(DeliverTest, MoreThanEightObserversHear) {
+  Stage stage;
+  for (int i = 0; i < 20; ++i) stage.join("x");
+  EXPECT_EQ(stage.change().size(), 40u);
+}
+
+TEST(DeliverTest, NothingIsExpectedInsideAHook) {
+  Stage stage;
+  Mox::Exception::Id inside = 99;
+  stage.join("a").then = [&] { inside = Mox::Expect::innermost(); };
+  Mox::Expect const outer(48);
+  stage.change();
+  EXPECT_EQ(inside, 0u);
+  EXPECT_EQ(Mox::Expect::innermost(), 48u);
+}
+
+TEST(DeliverTest, ObserverOfTheBaseAloneDoesntHearOfTheDerivedEntity) {
+  Watched every;
+  Mox::Ptr<PlainListener> const plain = new PlainListener;
+  watch(plain, every.entity);
+  every->extraIs(1);
+  every->levelIs(1);
+  EXPECT_EQ(plain->heard, "level;");
+  EXPECT_EQ(every.heard(), "extra;level;");
+}
+
+TEST(DeliverTest, ForeignObserverInTheBasesListIsPassedOver) {
+  class Foreign : public PlainListener {};
+  Watched every;
+  Mox::Ptr<Foreign> const foreign = new Foreign;
+  watch(foreign, every.entity);
+  every->marksIs(1, true);
+  EXPECT_EQ(foreign->heard, "");
+}
+
+}  // namespace
+}  // namespace frametest

@@ -1,0 +1,73 @@
+// The value collection: key to value.
+#pragma once
+
+#include "frame/Change.h"
+
+namespace frame {
+
+/// The value under `key`, or the value type's default.
+template <class A>
+typename A::Value mapRead(typename A::Owner const& owner, typename A::Key const& key) {
+  Mox::Ptr<typename A::Node const> const node = read<A>(owner, A::map(owner)).find(key);
+  return node ? node->value() : typename A::Value();
+}
+
+/// Makes and inserts a node; neither version nor notifiees hear of it.  The key must be absent.
+template <class A>
+Mox::Ptr<typename A::Node> mapNew(typename A::Owner& owner, typename A::Key const& key,
+                                  typename A::Value const& value) {
+  Mox::Ptr<typename A::Node> const node = new typename A::Node(key, value);
+  A::map(owner).newMember(node);
+  return node;
+}
+
+/// Announces a change of the element under `key`.
+template <class A>
+void mapNotify(typename A::Owner& owner, typename A::Key const& key) {
+  if constexpr (EntityAttribute<A>) notifyKey<A>(owner, key);
+}
+
+/// Stores or inserts; an equal value under the key is no change.
+template <class A>
+void mapIs(typename A::Owner& owner, typename A::Key const& key, typename A::Value const& value) {
+  if (auto* const node = A::map(owner).find(key)) {
+    if (node->value() == value) return;
+    node->valueIs(value);
+  } else {
+    mapNew<A>(owner, key, value);
+  }
+  changedKey<A>(owner, key);
+}
+
+/// Removes a node that stands in the collection and returns its value.
+template <class A>
+typename A::Value mapDelNode(typename A::Owner& owner, Mox::Ptr<typename A::Node> const& node) {
+  A::map(owner).deleteMember(node);
+  changedKey<A>(owner, node->key());
+  return node->value();
+}
+
+/// Removes the element under `key` and returns its value; the default, and nothing done, without
+/// one.
+template <class A>
+typename A::Value mapDel(typename A::Owner& owner, typename A::Key const& key) {
+  Mox::Ptr<typename A::Node> const node = A::map(owner).find(key);
+  return node ? mapDelNode<A>(owner, node) : typename A::Value();
+}
+
+/// Removes the element under the iterator, which may be at the end, or on an element that has gone
+/// meanwhile: then the default, and nothing done.
+template <class A, class Iterator>
+typename A::Value mapDelAt(typename A::Owner& owner, Iterator const& at) {
+  Mox::Ptr<typename A::Node> const node = at ? A::map(owner).find(at.key()) : nullptr;
+  return node && node.ptr() == at.node() ? mapDelNode<A>(owner, node) : typename A::Value();
+}
+
+/// Removes one after the other, each with its own step and its own notification.
+template <class A>
+void mapDelAll(typename A::Owner& owner) {
+  using Map = std::remove_reference_t<decltype(A::map(owner))>;
+  for (typename Map::Iterator at(A::map(owner)); at; ++at) mapDelAt<A>(owner, at);
+}
+
+}  // namespace frame

@@ -1,0 +1,53 @@
+// The owned scalar: one child entity.
+#pragma once
+
+#include "frame/Change.h"
+
+namespace frame {
+
+/// Raises `RangeException` "null ValidPtr" for null.
+void requireChild(Mox::Entity const* child);
+
+/// Makes the child and sets its place under the owner; it isn't stored.
+template <EntityAttribute A, class... Args>
+typename A::Value ownNew(typename A::Owner& owner, Args const&... args) {
+  typename A::Value const child = new typename A::Child(args...);
+  child->parentAttrIdIs(A::id);
+  child->parentIs(&owner);
+  return child;
+}
+
+/// The child under that name.  One that bears it already is kept whatever the further arguments,
+/// and the version alone steps; another one is detached and replaced, and the notifiees hear of it.
+template <EntityAttribute A, class... Args>
+typename A::Value ownIs(typename A::Owner& owner, Mox::Name const& name, Args const&... args) {
+  auto& stored = A::field(owner);
+  if (stored) {
+    owner.moxVersionInc();
+    if (stored->name() == name) return stored;
+    stored->parentIs(nullptr);
+  }
+  stored = ownNew<A>(owner, name, args...);
+  changed<A>(owner);
+  requireChild(stored.ptr());
+  return stored;
+}
+
+/// Detaches the child, tells the notifiees, and returns it; null, and nothing done, without one.
+template <EntityAttribute A>
+typename A::Value ownDel(typename A::Owner& owner) {
+  auto const child = std::move(A::field(owner));
+  if (!child) return nullptr;
+  owner.moxVersionInc();
+  child->parentIs(nullptr);
+  notify<A>(owner);
+  return child;
+}
+
+/// Before the owner's members go: the child may live on, and must not look up to it.
+template <EntityAttribute A>
+void ownForsake(typename A::Owner& owner) {
+  if (auto const& child = A::field(owner)) child->moxParentGone();
+}
+
+}  // namespace frame
