@@ -24,9 +24,14 @@ if(KESTREL_STANDIN)
     SOURCES ${generated} ${sources} LINK Mox LINK_OWN engines)
 endif()
 
-# The order of the sources is the order in which the linker lays them down.
-kestrel_generate(generated NAME KestrelTypes MOX_TYPE FOLDERS hwmodel src-includes)
+# The modules in the order in which they are registered, and named in the file.
+kestrel_generate(generated NAME KestrelTypes MOX_TYPE SCHEMAS
+  "${PROJECT_SOURCE_DIR}/hwmodel/Kestrel.schema"
+  "${PROJECT_SOURCE_DIR}/src-includes/XpLib/XpTableManSm.schema"
+  "${PROJECT_SOURCE_DIR}/src-includes/XpLib/XpTableCliHelper.schema")
 kestrel_sources(sources hwmodel src-includes)
 kestrel_library(KestrelTypes SHARED
   SOURCES ${generated} ${sources} LINK PlatformModels Mox Xdk LINK_OWN engines)
 set_target_properties(KestrelTypes PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 1)
+# Descriptors are immortal, so what they point into must be.
+target_link_options(KestrelTypes PRIVATE -Wl,-z,nodelete)
