@@ -1,0 +1,86 @@
+// The simulated SDK: all its state, and the means to control it.
+#pragma once
+
+#include "standin/xdk/CallLog.h"
+#include "standin/xdk/Profile.h"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+class xpDevice;
+class xpTableProfile;
+
+namespace xdksim {
+
+/// One simulated SDK, which is there while this object lives; the SDK's own declarations work on
+/// it. A process may have many, one after another.  Without one, every operation of the SDK ends
+/// the process with a line that says so.  What it does depends on profile and calls alone.
+class Sim {
+ public:
+  /// Knows the device of `profile`, and has an id in the `myId` of each manager class for every
+  /// index in use.  Throws `std::logic_error` while another `Sim` lives, `std::invalid_argument`
+  /// for a key of `sdkStatus` or `nullManagers` that names nothing of the SDK, and
+  /// `std::out_of_range` for a table id above 61.
+  explicit Sim(Profile profile = defaultProfile());
+  ~Sim();
+  Sim(Sim const&) = delete;
+  Sim& operator=(Sim const&) = delete;
+
+  /// The one that lives; ends the process when there is none.
+  static Sim& current();
+
+  /// Everything as after construction: devices, contexts, ids, statuses, counts; no call log.
+  /// Pointers that the SDK handed out before are void.
+  void reset();
+
+  /// Adds a device, or puts another in its place; its statuses join those that are set.
+  /// Throws like the constructor, and changes nothing then.
+  void deviceIs(Profile profile);
+  /// Throws `std::out_of_range` for an unknown device, here and below.
+  Profile const& profile(U32 deviceId = 0) const;
+  /// What the SDK hands out for the device, to be looked at or changed.
+  xpTableProfile& tableProfile(U32 deviceId = 0);
+  /// Whether the device answers null for its profile.
+  void tableProfileNullIs(U32 deviceId, bool isNull);
+
+  /// From now on calls of "Class::operation" or "Class[n]::operation" answer with these, the last
+  /// for all calls behind; an empty list takes the rule away.  Throws `std::invalid_argument` with
+  /// the fault.
+  void statusIs(std::string_view operation, std::vector<S32> statuses);
+  /// Whether platform layers answer null for "Class" or "Class[n]".  Throws likewise.
+  void managerNullIs(std::string_view manager, bool isNull);
+  /// Empties the class's `myId`, as before the SDK has filled it.  Throws likewise.
+  void idsDelAll(std::string_view manager);
+  /// Where lines of the call log go; an empty function for nowhere.
+  void callLogIs(CallLog log);
+
+  // What the SDK's declarations call.
+  XP_STATUS call(xpPrimitiveMgr const& manager, Call call, CallArguments const& arguments);
+  xpPrimitiveMgr* manager(Reach layer, U32 plMgrId);
+  U32 newPlMgrId();
+  xpDevice& device(U32 deviceId);
+  xpTableProfile* takeTableProfile(xpDevice& device);
+
+ private:
+  friend class BringUp;
+  struct State;
+
+  Profile profile_;
+  std::unique_ptr<State> state_;
+};
+
+/// Announces a bring-up for as long as it lives, so that another within it is found also on the
+/// same thread.
+class BringUp {
+ public:
+  explicit BringUp(Sim& sim, U32 deviceId = 0);
+  ~BringUp();
+  BringUp(BringUp const&) = delete;
+  BringUp& operator=(BringUp const&) = delete;
+
+ private:
+  Sim& sim_;  // outlives the scope
+};
+
+}  // namespace xdksim
