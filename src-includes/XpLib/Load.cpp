@@ -1,0 +1,32 @@
+// The work at load: the library's three modules register their types, one after the other.
+//
+// Nothing else in the library runs before somebody calls it. The order of the initialisers is that
+// of the definitions below, which is why they stand in one file.
+#include "Kestrel/Kestrel.module.h"
+#include "Kestrel/XpTableCliHelper.module.h"
+#include "Kestrel/XpTableManSm.module.h"
+#include "Mox/Trace.h"
+#include "frame/Module.h"
+
+#include <ios>
+
+namespace Kestrel {
+namespace {
+
+/// Registers a module's types when it is made.
+class Initialiser {
+ public:
+  explicit Initialiser(frame::Module& module) { module.load(); }
+
+ private:
+  std::ios_base::Init standardStreams_;
+};
+
+Initialiser const kestrel(moxModuleKestrel());
+Initialiser const xpTableManSm(moxModuleXpTableManSm());
+/// Made for the SDK's macros; nothing in this library writes to it.
+Mox::TraceHandle const xpXdkApiMacros("XpXdkApiMacros", false);
+Initialiser const xpTableCliHelper(moxModuleXpTableCliHelper());
+
+}  // namespace
+}  // namespace Kestrel

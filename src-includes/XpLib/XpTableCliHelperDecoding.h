@@ -1,0 +1,30 @@
+// From a table's contexts to the memory that the table takes.
+//
+// An SRAM row is 256 bits wide and holds as many whole entries as fit; a block is 1,024 rows, a
+// tile 8 blocks.  Only whole blocks count: every division drops its remainder, and a run of less
+// than a block ends one below its start.  Pools, starts and ends are taken modulo 256.
+#pragma once
+
+#include "XpLib/XpTableCliHelper.h"
+#include "XpXdk/TableContextEntry.h"
+
+namespace Kestrel {
+
+/// "MATCH", "HASH", "DIRECT", "LPM", "ISME" or "NH"; a code of no table type ends the process by
+/// the assertion "false".
+char const* tableTypeToString(U8 type);
+
+/// Adds the chunks of one copy of a table to `memory`; neither pointer may be null.  A copy without
+/// entries adds none, and is traced at level 7 unless it is of type LPM.
+///
+/// A code of no table type ends the process by the assertion "false", and so does a hash entry that
+/// is wider than a row unless key and value are of 256 bits each.  Nothing else of a context is
+/// checked: in the other types an entry wider than a row, and in any type with entries a width of 0
+/// or no way at all, is a division by zero, and so doesn't come here.
+void updateTableMemoryPerCopy(TableMemCollection::Ptr& memory,
+                              XpXdk::TableContextEntry::PtrConst& entry, U8 copy);
+
+/// The memory of all copies of the table, which are at most 256.
+TableMemCollection::Ptr tableMemory(XpXdk::TableContextEntry::PtrConst& entry);
+
+}  // namespace Kestrel

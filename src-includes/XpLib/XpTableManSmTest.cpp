@@ -1,0 +1,287 @@
+// The table manager's life: construction, the order of the bring-up, the frame of the object.
+#include "XpLib/XpTableManSm.h"
+#include "XpLib/XpTableManSmRigTest.h"
+
+#include <stdexcept>
+
+namespace Kestrel::xpTableManSm {
+namespace {
+
+Lines const coldBringUp = {
+    "xpBdMgr[0]::addDevice device=0 table=31 copies=1 mode=1 -> 0",
+    "entry 31 INGRESS_BD",
+    "xpEgressBdMgr[0]::addDevice device=0 table=32 copies=1 mode=1 -> 0",
+    "entry 32 EGRESS_BD",
+    "xpFdbMgr[0]::addDevice device=0 table=0 copies=1 mode=1 -> 0",
+    "entry 0 FDB",
+    "xpIpv4RouteMcMgr[0]::addDevice device=0 table=8 copies=1 mode=1 -> 0",
+    "entry 8 IPV4_ROUTEMC",
+    "xpIpv4PIMBiDirRPFMgr[0]::addDevice device=0 table=10 copies=1 mode=1 -> 0",
+    "xpPortVlanIvifMgr[0]::addDevice device=0 table=1 copies=1 mode=1 -> 0",
+    "entry 1 PORTVLAN_IVIF",
+    "xpMdtMgr[0]::addDevice device=0 table=30 copies=1 mode=1 -> 0",
+    "entry 30 MDT",
+    "xpControlMacMgr[0]::addDevice device=0 init=1 -> 0",
+    "xpNhMgr[0]::addDevice device=0 table=52 copies=1 mode=1 -> 0",
+    "entry 52 NEXTHOP",
+    "xpEgressAclMgr::init -> 0",
+    "xpEgressAclMgr::addDevice device=0 init=1 -> 0",
+};
+
+Lines with(Lines lines, std::string const& from, std::string const& to) {
+  for (std::string& line : lines) {
+    std::size_t const at = line.find(from);
+    if (at != line.npos) line.replace(at, from.size(), to);
+  }
+  return lines;
+}
+
+TEST(TableManSmTest, BringUpCreatesAndPublishesInItsOrder) {
+  Rig rig;
+  rig.bringUp();
+  EXPECT_EQ(rig.lines, coldBringUp);
+}
+
+TEST(TableManSmTest, WarmStartDiffersInTheInitTypeAlone) {
+  auto profile = fullProfile();
+  profile.coldStartNeeded = false;
+  Rig rig(profile);
+  rig.bringUp();
+  EXPECT_EQ(rig.lines, with(coldBringUp, "init=1", "init=2"));
+}
+
+TEST(TableManSmTest, PipeModeOtherThanThreeLeavesItsTablesAbsent) {
+  for (U32 mode : {0u, 1u, 2u, 4u}) {
+    auto profile = fullProfile();
+    profile.ldePipeMode = mode;
+    for (U32 id : {2u, 12u, 13u, 14u, 33u, 34u, 35u, 36u, 53u, 60u, 61u})
+      profile.tables[id] = table<xpMatchTableContext>();
+    Rig rig(profile);
+    rig.bringUp();
+    EXPECT_EQ(rig.lines, coldBringUp);
+  }
+}
+
+TEST(TableManSmTest, EachCallNamesTheDevice) {
+  auto profile = fullProfile();
+  profile.deviceId = 31;
+  Rig rig(profile);
+  rig.deviceId = 31;
+  rig.bringUp();
+  EXPECT_EQ(rig.lines, with(coldBringUp, "device=0", "device=31"));
+}
+
+TEST(TableManSmTest, BringUpLeavesTheManagerRunning) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  EXPECT_TRUE(sm->initialized());
+  EXPECT_EQ(sm->tableProfile(), &rig.sim.tableProfile());
+  EXPECT_EQ(sm->deviceId(), 0);
+  EXPECT_EQ(sm->chipStatus(), rig.status);
+  EXPECT_EQ(sm->lpmTreadCfg(), rig.lpmTreadCfg);
+  EXPECT_EQ(sm->ldePipeMode(), XpXdk::xpDeviceLdePipeMode3);
+  EXPECT_TRUE(sm->coldStartNeeded());
+}
+
+TEST(TableManSmTest, BringUpOfTheBuiltInDevice) {
+  Rig rig(xdksim::defaultProfile());
+  rig.bringUp();
+  EXPECT_EQ(rig.lines.back(), coldBringUp.back());
+  for (U32 id : {0u, 1u, 8u, 30u, 31u, 32u, 52u}) EXPECT_GT(rig.entry(id)->tblCopyNum(), 0u) << id;
+}
+
+TEST(TableManSmTest, InitializedIsSetBeforeAnyTableExists) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  sm->initializedIs(false);
+  rig.sim.callLogIs([&](std::string_view) {
+    EXPECT_TRUE(sm->initialized());
+    EXPECT_TRUE(sm->tableProfile());
+  });
+  sm->handleInitialized();
+}
+
+TEST(TableManSmTest, ProfileAndFlagArePlainStores) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  rig.take();
+  sm->tableProfileIs(nullptr);
+  sm->initializedIs(false);
+  EXPECT_EQ(sm->tableProfile(), nullptr);
+  EXPECT_FALSE(sm->initialized());
+  EXPECT_EQ(rig.lines, Lines());
+}
+
+TEST(TableManSmTest, WarmRestartTouchesNothing) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  rig.take();
+  EXPECT_TRUE(sm->doVerifyOrCreateTables(true));
+  EXPECT_EQ(rig.lines, Lines());
+  EXPECT_EQ(rig.status->tableContextEntryCount(), 7u);
+}
+
+TEST(TableManSmTest, CreationAnswersTrue) {
+  Rig rig;
+  EXPECT_TRUE(rig.bringUp()->doVerifyOrCreateTables(false));
+}
+
+TEST(TableManSmTest, HandleInitializedDoesAllItsWorkAgain) {
+  Rig rig(bareProfile());
+  auto const sm = rig.bringUp();
+  auto const first = rig.take();
+  sm->handleInitialized();
+  Lines again = {"gone 52"};
+  again.insert(again.end(), first.begin(), first.end());
+  EXPECT_EQ(rig.lines, again);
+}
+
+TEST(TableManSmTest, EntriesOfAnEarlierBringUpAreGone) {
+  Rig rig;
+  auto const first = rig.bringUp();
+  rig.sdkContext<xpTableContext>(30)->first = -1;
+  rig.take();
+  auto const second = rig.bringUp();
+  EXPECT_EQ(rig.entry(30), nullptr);
+  EXPECT_EQ(rig.status->tableContextEntryCount(), 6u);
+  EXPECT_EQ(std::count(rig.lines.begin(), rig.lines.end(), "gone 30"), 1);
+}
+
+TEST(TableManSmTest, EntriesOfAnEarlierBringUpArePublishedAnew) {
+  Rig rig;
+  rig.bringUp();
+  auto const former = rig.entry(31);
+  rig.bringUp();
+  EXPECT_NE(rig.entry(31), former);
+  EXPECT_EQ(rig.entry(31)->tableName(), "INGRESS_BD");
+}
+
+TEST(TableManSmTest, StatusOfEgressAclInitIsNotLookedAt) {
+  for (S32 status : {-1, 1, 7}) {
+    Rig rig;
+    rig.sim.statusIs("xpEgressAclMgr::init", {status});
+    rig.bringUp();
+    EXPECT_EQ(rig.lines.back(), coldBringUp.back());
+  }
+}
+
+TEST(TableManSmTest, MissingProfileEndsTheProcess) {
+  Rig rig;
+  rig.sim.tableProfileNullIs(0, true);
+  expectAbort([&] { rig.bringUp(); },
+              assertion("tableProfile()", "void Kestrel::TableManSm::handleInitialized()"));
+}
+
+// The object.
+
+TEST(TableManSmTest, FactoryHandsOutTheOnlyReference) {
+  Rig rig;
+  EXPECT_EQ(rig.bringUp()->references(), 1u);
+}
+
+TEST(TableManSmTest, FactorySwitchesNotificationsOn) {
+  Rig rig;
+  EXPECT_TRUE(rig.bringUp()->hasNotificationActive());
+}
+
+TEST(TableManSmTest, NotificationFlagIsKeptInTheReferenceWord) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  EXPECT_EQ(sm->referenceWord(), 0x20000001u);
+  sm->hasNotificationActiveIs(true);
+  EXPECT_EQ(sm->referenceWord(), 0x20000001u);
+  sm->hasNotificationActiveIs(false);
+  EXPECT_EQ(sm->referenceWord(), 0x00000001u);
+  sm->hasNotificationActiveIs(false);
+  EXPECT_EQ(sm->referenceWord(), 0x00000001u);
+}
+
+TEST(TableManSmTest, ZombieMarkIsKeptInTheTopBit) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  sm->moxDoZombieReactors(true);
+  EXPECT_EQ(sm->referenceWord(), 0xA0000001u);
+  sm->moxDoZombieReactors(true);
+  EXPECT_EQ(sm->referenceWord(), 0xA0000001u);
+  sm->moxDoZombieReactors(false);
+  EXPECT_EQ(sm->referenceWord(), 0x20000001u);
+}
+
+TEST(TableManSmTest, HasNoActivity) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  EXPECT_EQ(sm->moxFwkActivity(), nullptr);
+  EXPECT_EQ(TableManSm::PtrConst(sm)->moxFwkActivity(), nullptr);
+}
+
+TEST(TableManSmTest, DirectConstructionLeavesNoReferenceOfItsOwn) {
+  Rig rig;
+  Mox::Ptr<TableManSm> const sm =
+      new TableManSm(0, rig.status, XpXdk::xpDeviceLdePipeMode3, true, rig.lpmTreadCfg);
+  EXPECT_EQ(sm->referenceWord(), 1u);
+}
+
+TEST(TableManSmTest, HoldsOneReferenceOnStatusAndPlan) {
+  Rig rig;
+  auto const held = rig.status->references();
+  auto const planHeld = rig.lpmTreadCfg->references();
+  {
+    auto const sm = rig.bringUp();
+    EXPECT_EQ(rig.status->references(), held + 1);
+    EXPECT_EQ(rig.lpmTreadCfg->references(), planHeld + 1);
+  }
+  EXPECT_EQ(rig.status->references(), held);
+  EXPECT_EQ(rig.lpmTreadCfg->references(), planHeld);
+}
+
+TEST(TableManSmTest, NoTreadPlanIsNeededWhereNoLpmTableIsCreated) {
+  Rig rig;
+  rig.lpmTreadCfg = nullptr;
+  EXPECT_EQ(rig.bringUp()->lpmTreadCfg(), nullptr);
+}
+
+TEST(TableManSmTest, EntriesOutliveTheManager) {
+  Rig rig;
+  rig.bringUp();
+  EXPECT_EQ(rig.status->tableContextEntryCount(), 7u);
+}
+
+// The sanitizer's leak check tells whether the storage is freed.
+TEST(TableManSmTest, ExceptionOfTheConstructorPassesOnAndLetsGoOfAll) {
+  Rig rig;
+  auto const held = rig.status->references();
+  rig.sim.callLogIs([](std::string_view) { throw std::runtime_error("from the SDK"); });
+  EXPECT_THROW(rig.bringUp(), std::runtime_error);
+  EXPECT_EQ(rig.status->references(), held);
+}
+
+// A failed bring-up is followed by another, on the same chip and status.
+TEST(TableManSmTest, BringUpAfterABrokenOne) {
+  Rig rig;
+  rig.sim.callLogIs([](std::string_view) { throw std::runtime_error("from the SDK"); });
+  EXPECT_THROW(rig.bringUp(), std::runtime_error);
+  rig.sim.callLogIs([&rig](std::string_view line) { rig.lines.emplace_back(line); });
+  rig.bringUp();
+  EXPECT_EQ(rig.lines, coldBringUp);
+}
+
+// The slots of the virtual operations, read out of member pointers as the compiler lays them down.
+template <class Member>
+std::size_t slot(Member member) {
+  std::size_t word;
+  static_assert(sizeof member >= sizeof word);
+  std::memcpy(&word, &member, sizeof word);
+  return (word - 1) / sizeof(void*);
+}
+
+TEST(TableManSmTest, ZombieOperationHasTheLastSlot) {
+  EXPECT_EQ(slot(&TableManSm::hasNotificationActiveIs), 0u);
+  EXPECT_EQ(slot(&TableManSm::moxAuditErrors), 1u);
+  EXPECT_EQ(slot(&TableManSm::auditErrors), 2u);
+  EXPECT_EQ(slot(&TableManSm::zeroReferencesIs), 3u);
+  EXPECT_EQ(slot(&TableManSm::fwkType), 4u);
+  EXPECT_EQ(slot(&TableManSm::moxDoZombieReactors), 7u);
+}
+
+}  // namespace
+}  // namespace Kestrel::xpTableManSm

@@ -1,0 +1,278 @@
+// What the table manager leaves in traces: texts, levels, records, their order.
+#include "Swiftlog/Reader.h"
+#include "Swiftlog/TraceFile.h"
+#include "XpLib/XpTableManSmRigTest.h"
+#include "XpLib/XpTableManSmTrace.h"
+
+#include <sstream>
+
+namespace Kestrel::xpTableManSm {
+namespace {
+
+// A trace line without the number of its source line: "1 doCreateBdTables: the text".
+std::string shortened(std::string_view line) {
+  std::string const head = "XpTableManSm ";
+  std::string const path = " src-includes/XpLib/XpTableManSm:";
+  std::size_t const pathAt = line.find(path);
+  std::size_t const nameAt = line.find(' ', pathAt + path.size()) + 1;
+  std::string const object = " <unknown>: ";
+  std::size_t const objectAt = line.find(object);
+  if (!line.starts_with(head) || pathAt == line.npos || objectAt == line.npos)
+    return "not in form: " + std::string(line);
+  return std::string(line.substr(head.size(), pathAt - head.size())) + ' ' +
+         std::string(line.substr(nameAt, objectAt - nameAt)) + ": " +
+         std::string(line.substr(objectAt + object.size()));
+}
+
+// Takes the module's trace for as long as it lives.
+class Trace {
+ public:
+  explicit Trace(char const* pattern) : pattern_(pattern) {
+    Mox::traceEnable(pattern_);
+    former_ = Mox::traceSinkIs([this](std::string_view line) { lines.push_back(shortened(line)); });
+  }
+  ~Trace() {
+    Mox::traceSinkIs(former_);
+    Mox::traceDisable(pattern_);
+    Mox::traceDisable("XpTableManSm");
+  }
+
+  Lines lines;
+
+ private:
+  char const* pattern_;
+  Mox::TraceSink former_;
+};
+
+// Takes the records likewise.
+class Records {
+ public:
+  Records() { Swiftlog::theTraceFileIs(&file_); }
+  ~Records() { Swiftlog::theTraceFileIs(nullptr); }
+
+  Lines texts() const {
+    Lines result;
+    Swiftlog::Reader reader(file_.bytes());
+    for (Swiftlog::Message message; reader.next(&message);) {
+      EXPECT_EQ(message.file, "src-includes/XpLib/XpTableManSm");
+      EXPECT_GT(message.line, 0u);
+      result.emplace_back(message.text.charPtr());
+    }
+    return result;
+  }
+
+ private:
+  Swiftlog::TraceFile file_;
+};
+
+std::string const one(1, '\1');
+std::string const nul(1, '\0');
+
+// "entry" of an operation, and what publication says behind it.
+std::string published(U32 id, U32 plMgrId, std::string const& copies) {
+  return "TableManSm::doUpdateTableStatus DeviceId 0 TableId " + std::to_string(id) +
+         " tblCopyNum " + copies + " plMgrId " + std::to_string(plMgrId) + " tableIdForMgr 0";
+}
+
+TEST(TableManSmTraceTest, BringUpAtLevelOne) {
+  Rig rig;
+  Trace trace("XpTableManSm/1");
+  rig.bringUp();
+  auto entered = [](std::string const& name) {
+    return "1 " + name + ": TableManSm::" + name + " DeviceId 0";
+  };
+  auto told = [](U32 id, std::vector<U32> const& ids) {
+    return "1 doUpdateTableStatus: " + published(id, ids[0], one);
+  };
+  EXPECT_EQ(trace.lines, (Lines{
+                             entered("handleInitialized"),
+                             entered("doCreateBdTables"),
+                             told(31, xpBdMgr::myId),
+                             told(32, xpEgressBdMgr::myId),
+                             entered("doCreateFdbTable"),
+                             told(0, xpFdbMgr::myId),
+                             entered("doCreateRouteMcTable"),
+                             told(8, xpIpv4RouteMcMgr::myId),
+                             entered("doCreatePimTable"),
+                             entered("doCreatePortVlanTable"),
+                             told(1, xpPortVlanIvifMgr::myId),
+                             entered("doCreateMdtTable"),
+                             told(30, xpMdtMgr::myId),
+                             entered("doCreateControlMacTable"),
+                             told(52, xpNhMgr::myId),
+                         }));
+}
+
+TEST(TableManSmTraceTest, BringUpAtLevelEight) {
+  Rig rig;
+  Trace trace("XpTableManSm/8");
+  rig.bringUp();
+  EXPECT_EQ(trace.lines,
+            (Lines{"8 doVerifyOrCreateTables: bool "
+                   "Kestrel::TableManSm::doVerifyOrCreateTables(bool) warmRestart 0",
+                   "8 doCreateNhTables: void Kestrel::TableManSm::doCreateNhTables()"}));
+}
+
+TEST(TableManSmTraceTest, WarmRestartIsOneInTheText) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  Trace trace("XpTableManSm/8");
+  sm->doVerifyOrCreateTables(true);
+  EXPECT_EQ(trace.lines, Lines{"8 doVerifyOrCreateTables: bool "
+                               "Kestrel::TableManSm::doVerifyOrCreateTables(bool) warmRestart 1"});
+}
+
+TEST(TableManSmTraceTest, OtherLevelsAreEmpty) {
+  Rig rig;
+  Trace trace("XpTableManSm/0,2-7,9-31");
+  rig.bringUp();
+  EXPECT_EQ(trace.lines, Lines());
+}
+
+TEST(TableManSmTraceTest, DeviceIsANumber) {
+  auto profile = fullProfile();
+  profile.deviceId = 31;
+  Rig rig(profile);
+  rig.deviceId = 31;
+  Trace trace("XpTableManSm/1");
+  rig.bringUp();
+  EXPECT_EQ(trace.lines.front(), "1 handleInitialized: TableManSm::handleInitialized DeviceId 31");
+}
+
+TEST(TableManSmTraceTest, CopyNumberIsOneRawByteOfTheText) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  Trace trace("XpTableManSm/1");
+  auto context = contexts<xpHashTableContext>(65);
+  xpTableContext* first = context.data();
+  sm->doUpdateTableStatus(3, "T", &first, 65, 0, 9);
+  sm->doUpdateTableStatus(4, "T", &first, 0, 0, 9);
+  EXPECT_EQ(trace.lines, (Lines{"1 doUpdateTableStatus: " + published(3, 9, "A"),
+                                "1 doUpdateTableStatus: " + published(4, 9, nul)}));
+}
+
+TEST(TableManSmTraceTest, SkippedTableIsTraced) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  Trace trace("XpTableManSm/1");
+  Records records;
+  xpTableContext* none = nullptr;
+  sm->doUpdateTableStatus(3, "T", &none, 1, 0, 9);
+  EXPECT_EQ(trace.lines, Lines{"1 doUpdateTableStatus: " + published(3, 9, one)});
+  EXPECT_EQ(records.texts(), Lines{published(3, 9, "1")});
+}
+
+TEST(TableManSmTraceTest, SitesAreCountedEnabledOrNot) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  auto const* facility = Mox::traceFacility("XpTableManSm");
+  U64 const before = facility->hits();
+  sm->doVerifyOrCreateTables(true);
+  EXPECT_EQ(facility->hits(), before + 1);
+  Trace trace("XpTableManSm/1");
+  sm->doVerifyOrCreateTables(true);
+  EXPECT_EQ(facility->hits(), before + 3);
+}
+
+TEST(TableManSmTraceTest, CoverageStreamGetsWhatIsNotTraced) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  std::ostringstream covered;
+  Mox::coverageStream_ = &covered;
+  sm->doCreateControlMacTable();
+  Mox::coverageStream_ = nullptr;
+  EXPECT_NE(covered.str().find("TableManSm::doCreateControlMacTable DeviceId 0"),
+            std::string::npos);
+}
+
+TEST(TableManSmTraceTest, HandleIsOneForAll) {
+  EXPECT_EQ(&_defaultTraceHandle(), &_defaultTraceHandle());
+  EXPECT_EQ(_defaultTraceHandle().facility()->name(), "XpTableManSm");
+}
+
+TEST(TableManSmTraceTest, HandleOfTheSdksMacrosIsMadeAndNotUsed) {
+  auto const* facility = Mox::traceFacility("XpXdkApiMacros");
+  ASSERT_TRUE(facility);
+  Rig rig;
+  rig.bringUp();
+  EXPECT_EQ(facility->hits(), 0u);
+}
+
+// Records.
+
+TEST(TableManSmRecordTest, BringUp) {
+  Rig rig;
+  Records records;
+  rig.bringUp();
+  auto entered = [](std::string const& name) { return "TableManSm::" + name + " DeviceId 0"; };
+  auto told = [](U32 id, std::vector<U32> const& ids) { return published(id, ids[0], "1"); };
+  EXPECT_EQ(records.texts(),
+            (Lines{
+                entered("handleInitialized"),
+                "bool Kestrel::TableManSm::doVerifyOrCreateTables(bool) warmRestart 0",
+                entered("doCreateBdTables"),
+                told(31, xpBdMgr::myId),
+                told(32, xpEgressBdMgr::myId),
+                entered("doCreateFdbTable"),
+                told(0, xpFdbMgr::myId),
+                entered("doCreateRouteMcTable"),
+                told(8, xpIpv4RouteMcMgr::myId),
+                entered("doCreatePimTable"),
+                entered("doCreatePortVlanTable"),
+                told(1, xpPortVlanIvifMgr::myId),
+                entered("doCreateMdtTable"),
+                told(30, xpMdtMgr::myId),
+                entered("doCreateControlMacTable"),
+                told(52, xpNhMgr::myId),
+            }));
+}
+
+TEST(TableManSmRecordTest, ArgumentsOfAPublication) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  Records records;
+  auto context = contexts<xpHashTableContext>(1);
+  xpTableContext* first = context.data();
+  sm->doUpdateTableStatus(0xFFFFFFFE, "T", &first, 0, 0xFFFFFFFD, 0xFFFFFFFC);
+  EXPECT_EQ(records.texts(),
+            Lines{"TableManSm::doUpdateTableStatus DeviceId 0 TableId 4294967294 tblCopyNum 0 "
+                  "plMgrId 4294967292 tableIdForMgr 4294967293"});
+}
+
+TEST(TableManSmRecordTest, SiteIsDescribedOnce) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  Swiftlog::TraceFile file;
+  Swiftlog::theTraceFileIs(&file);
+  sm->doCreateFdbTable();
+  sm->doCreateFdbTable();
+  EXPECT_EQ(Swiftlog::Reader(file.bytes()).numDescriptors(), 2u);
+  Swiftlog::theTraceFileIs(nullptr);
+}
+
+TEST(TableManSmRecordTest, NothingIsWrittenWithoutATraceFile) {
+  Rig rig;
+  Swiftlog::TraceFile file;
+  rig.bringUp();
+  EXPECT_EQ(Swiftlog::Reader(file.bytes()).numDescriptors(), 0u);
+}
+
+TEST(TableManSmRecordTest, TextComesBeforeTheRecord) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  Swiftlog::TraceFile file;
+  Swiftlog::theTraceFileIs(&file);
+  Mox::traceEnable("XpTableManSm/1");
+  U32 atText = 99;
+  auto former = Mox::traceSinkIs([&](std::string_view) {
+    atText = static_cast<U32>(Swiftlog::Reader(file.bytes()).numDescriptors());
+  });
+  sm->doCreateControlMacTable();
+  Mox::traceSinkIs(former);
+  Mox::traceDisable("XpTableManSm");
+  Swiftlog::theTraceFileIs(nullptr);
+  EXPECT_EQ(atText, 0u);
+}
+
+}  // namespace
+}  // namespace Kestrel::xpTableManSm
