@@ -25,53 +25,61 @@ add_executable(consumer consumer.cpp)
 target_link_libraries(consumer PRIVATE KestrelTypes::KestrelTypes)
 )";
 
+// Installed once for all tests; they only read it.
+const house::Sandbox& installed() {
+  static const house::Sandbox sandbox;
+  static const house::Outcome outcome =
+      sandbox.run("cmake --install " KESTREL_BINARY_DIR " --prefix " + sandbox.path());
+  EXPECT_EQ(outcome.status, 0) << outcome.output;
+  return sandbox;
+}
+
 class InstallTest : public testing::Test {
  protected:
-  InstallTest() {
+  InstallTest() : prefix_(installed().path()) {
     tree_.has("consumer.cpp", consumer);
     tree_.has("CMakeLists.txt", project);
-    const house::Outcome installed =
-        tree_.run("cmake --install " KESTREL_BINARY_DIR " --prefix " + prefix());
-    EXPECT_EQ(installed.status, 0) << installed.output;
   }
 
-  std::string prefix() const { return tree_.path() + "/prefix"; }
-
+  const std::string prefix_;
   house::Sandbox tree_;
 };
 
 TEST_F(InstallTest, CMakeFindsThePackage) {
   const house::Outcome outcome =
-      tree_.run("cmake -S . -B out -G Ninja -DCMAKE_PREFIX_PATH=" + prefix() +
+      tree_.run("cmake -S . -B out -G Ninja -DCMAKE_PREFIX_PATH=" + prefix_ +
                 " >log 2>&1 && cmake --build out >>log 2>&1 && out/consumer || cat log");
   EXPECT_EQ(outcome.output, "chip0 0\n");
 }
 
 TEST_F(InstallTest, PkgConfigAnswers) {
   const house::Outcome outcome = tree_.run(
-      "export PKG_CONFIG_PATH=" + prefix() +
+      "export PKG_CONFIG_PATH=" + prefix_ +
       "/lib/pkgconfig; g++ consumer.cpp -o consumer $(pkg-config --cflags --libs kestreltypes) && "
       "LD_LIBRARY_PATH=" +
-      prefix() + "/lib ./consumer");
+      prefix_ + "/lib ./consumer");
   EXPECT_EQ(outcome.output, "chip0 0\n");
 }
 
 TEST_F(InstallTest, EveryInstalledHeaderCompilesAlone) {
-  const house::Outcome outcome = tree_.run(
-      "cd prefix/include/kestreltypes; find . -name '*.h' | xargs -P2 -I{} g++ -std=c++20 -Wall "
-      "-Wextra -Wpedantic -Werror -I. -fsyntax-only -include {} -x c++ /dev/null");
+  const house::Outcome outcome =
+      tree_.run("cd " + prefix_ +
+                "/include/kestreltypes; find . -name '*.h' | xargs -P2 -I{} g++ -std=c++20 -Wall "
+                "-Wextra -Wpedantic -Werror -I. -fsyntax-only -include {} -x c++ /dev/null");
   EXPECT_EQ(outcome.output, "");
   EXPECT_EQ(outcome.status, 0);
 }
 
 TEST_F(InstallTest, TheLibraryHasItsSoname) {
   EXPECT_EQ(
-      tree_.run("objdump -p prefix/lib/libKestrelTypes.so | grep -o 'SONAME.*' | tr -s ' '").output,
+      tree_
+          .run("objdump -p " + prefix_ + "/lib/libKestrelTypes.so | grep -o 'SONAME.*' | tr -s ' '")
+          .output,
       "SONAME libKestrelTypes.so.1\n");
 }
 
 TEST_F(InstallTest, TheToolRunsFromItsPlace) {
-  EXPECT_EQ(tree_.run("prefix/bin/kestrel --help >/dev/null").status, 0);
+  EXPECT_EQ(tree_.run(prefix_ + "/bin/kestrel --help >/dev/null").status, 0);
 }
 
 // The installed stand-in plays the real platform: no file of standin/ or platform/ is used.
@@ -80,7 +88,7 @@ TEST_F(InstallTest, TheLibraryConfiguresAgainstAnotherPlatform) {
       tree_.run("cmake -S " KESTREL_SOURCE_DIR
                 " -B out -G Ninja -DKESTREL_STANDIN=OFF "
                 "-DKESTREL_TESTS=OFF -DKESTREL_PLATFORM_ROOT=" +
-                prefix() +
+                prefix_ +
                 " >log 2>&1 && ninja -C out -t commands KestrelTypes | grep -c "
                 "'standin/\\|" KESTREL_SOURCE_DIR "/platform' || tail -20 log");
   EXPECT_EQ(outcome.output.substr(0, 2), "0\n");

@@ -1,0 +1,50 @@
+// From a profile to a chip that is up.
+#include "tools/kestrel/Chip.h"
+
+#include "Mox/Exception.h"
+#include "XpLib/XpTableCliHelperStatus.h"
+#include "XpSystem/ChipStatus.h"
+#include "tools/kestrel/UsageFault.h"
+
+namespace kestrel {
+
+namespace {
+
+XpXdk::XpDeviceId deviceIdOf(xdksim::Profile const& profile, std::string const& origin) {
+  try {
+    return XpXdk::XpDeviceId(profile.deviceId);
+  } catch (Mox::RangeException const& fault) {
+    throw UsageFault(origin + ": /deviceId: " + fault.what());
+  }
+}
+
+XpLib::Config::LpmTreadCfg::Ptr treadsOf(xdksim::LpmTreadCfg const& plan) {
+  XpLib::Config::LpmTreadCfg::Ptr const treads = new XpLib::Config::LpmTreadCfg("lpmTreadCfg");
+  for (auto const& [index, tread] : plan.treadV4) treads->treadV4Is(index, tread);
+  for (auto const& [index, tread] : plan.treadV6) treads->treadV6Is(index, tread);
+  treads->treadV4ValidIs(plan.treadV4Valid);
+  treads->treadV6ValidIs(plan.treadV6Valid);
+  return treads;
+}
+
+}  // namespace
+
+Chip::Chip(xdksim::Profile const& profile, std::string const& origin)
+    : sdk_(profile),
+      status_(Kestrel::chipStatusFactory("chip")),
+      deviceId_(deviceIdOf(profile, origin)),
+      ldePipeMode_(static_cast<XpXdk::XpDeviceLdePipeMode>(profile.ldePipeMode)),
+      coldStartNeeded_(profile.coldStartNeeded),
+      treads_(treadsOf(profile.lpmTreadCfg)) {}
+
+void Chip::bringUp() {
+  tables_ = Kestrel::tableManSmFactory(deviceId_, status_, ldePipeMode_, coldStartNeeded_, treads_);
+}
+
+Kestrel::TableCliHelper::Ptr Chip::reports() const {
+  XpSystem::ChipStatus::Ptr const status = new XpSystem::ChipStatus("chip");
+  Kestrel::tableContextFrom(*status, *status_);
+  return Kestrel::tableCliHelperFactory(status);
+}
+
+}  // namespace kestrel

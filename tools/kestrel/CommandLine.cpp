@@ -1,0 +1,136 @@
+// The grammar of the command line, and what each command leads to.
+#include "tools/kestrel/CommandLine.h"
+
+#include "standin/xdk/Json.h"
+#include "tools/kestrel/Commands.h"
+#include "tools/kestrel/Output.h"
+#include "tools/kestrel/UsageFault.h"
+
+#include <CLI/CLI.hpp>
+#include <cctype>
+#include <charconv>
+#include <cstring>
+#include <iostream>
+#include <string>
+#include <unistd.h>
+
+namespace kestrel {
+
+namespace {
+
+constexpr char const* description =
+    "Shows the library of typed models at work: brings a simulated switching chip up and prints\n"
+    "what the library says of it.  Results go to standard output, complaints to standard error.";
+
+constexpr char const* footer =
+    "Exit status: 0 success, 1 the output can't be written, 2 wrong usage or a bad profile.  "
+    "Where\n"
+    "the library ends the process by assertion, the tool is aborted.";
+
+/// The empty string for a number that fits into 32 bits; else what is wrong.
+std::string tableIdFault(std::string const& text) {
+  U32 id = 0;
+  char const* const end = text.data() + text.size();
+  auto const read = std::from_chars(text.data(), end, id);
+  return read.ec == std::errc() && read.ptr == end ? "" : "\"" + text + "\" is no table id";
+}
+
+CLI::App& addCommand(CLI::App& app, char const* name, char const* help, Request& request,
+                     Command command) {
+  CLI::App& added = *app.add_subcommand(name, help);
+  added.callback([&request, command] { request.command = command; });
+  return added;
+}
+
+void addProfile(CLI::App& command, Request& request) {
+  command
+      .add_option("--profile", request.profile,
+                  "A JSON file that says what the simulated SDK knows of the chip; without it, the "
+                  "built-in profile")
+      ->type_name("FILE");
+}
+
+void addReports(CLI::App& app, Request& request) {
+  CLI::App& report =
+      *app.add_subcommand("report", "Bring a simulated chip up and report its tables");
+  report.require_subcommand(1);
+  CLI::App& summary = addCommand(report, "summary", "Rows that each table takes, by kind of memory",
+                                 request, reportSummary);
+  summary.add_option("--table", request.tableId, "The line of this table alone")
+      ->type_name("ID")
+      ->check(CLI::Validator(tableIdFault, ""));
+  addProfile(summary, request);
+  addProfile(addCommand(report, "tables", "Id and name of each table", request, reportTables),
+             request);
+}
+
+void addCommands(CLI::App& app, Request& request) {
+  app.require_subcommand(1);
+  addCommand(app, "demo", "Bring the built-in chip up and tell what happens", request, demo);
+  addReports(app, request);
+  addProfile(addCommand(app, "bringup", "Bring a chip up and print each call of the SDK", request,
+                        bringUp),
+             request);
+  addCommand(app, "profile", "Print the built-in profile", request, profile);
+  addCommand(app, "types", "Print the types of the library's modules, by their descriptors",
+             request, types)
+      .add_flag("--json", request.json, "As JSON");
+}
+
+/// The deepest command that the user has named; its help is the one to read.
+CLI::App const& namedCommand(CLI::App const& app) {
+  auto const named = app.get_subcommands();
+  return named.empty() ? app : namedCommand(*named.front());
+}
+
+std::string fullName(CLI::App const& command) {
+  auto const* const parent = command.get_parent();
+  return parent ? fullName(*parent) + " " + command.get_name() : command.get_name();
+}
+
+// One line, whatever bytes the user's words hold.
+void complain(std::string const& complaint) {
+  std::cerr << "kestrel: error: " << xdksim::printable(complaint, 2000) << '\n';
+}
+
+ExitStatus refused(CLI::App const& app, CLI::ParseError const& fault) {
+  std::string what = fault.what();
+  what[0] = static_cast<char>(std::tolower(what[0]));
+  complain(what + " (see \"" + fullName(namedCommand(app)) + " --help\")");
+  return wrongUsage;
+}
+
+ExitStatus perform(CLI::App& app, Request const& request, int argc, char const* const* argv,
+                   std::ostream& out) {
+  try {
+    app.parse(argc, argv);
+    request.command(request, out);
+  } catch (CLI::ParseError const& fault) {
+    if (fault.get_exit_code() != 0) return refused(app, fault);
+    app.exit(fault, out, std::cerr);  // help or version
+  } catch (UsageFault const& fault) {
+    complain(fault.what());
+    return wrongUsage;
+  }
+  return success;
+}
+
+}  // namespace
+
+int run(int argc, char const* const* argv) {
+  Request request;
+  CLI::App app(description, "kestrel");
+  app.footer(footer);
+  app.set_version_flag("--version", "kestrel " KESTREL_VERSION, "Print the version and exit");
+  addCommands(app, request);
+
+  OutputBuffer output(STDOUT_FILENO);
+  std::ostream out(&output);
+  ExitStatus const status = perform(app, request, argc, argv, out);
+  out.flush();
+  if (output.error() == 0) return status;
+  complain(std::string("standard output can't be written: ") + std::strerror(output.error()));
+  return outputFailed;
+}
+
+}  // namespace kestrel

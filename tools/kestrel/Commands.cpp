@@ -1,0 +1,76 @@
+// From a request to what it asks for.
+#include "tools/kestrel/Commands.h"
+
+#include "standin/xdk/ProfileReader.h"
+#include "standin/xdk/ProfileWriter.h"
+#include "tools/kestrel/BringUp.h"
+#include "tools/kestrel/Demo.h"
+#include "tools/kestrel/Report.h"
+#include "tools/kestrel/Types.h"
+#include "tools/kestrel/UsageFault.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <ostream>
+#include <unistd.h>
+
+namespace kestrel {
+
+namespace {
+
+xdksim::Profile readProfile(std::string const& file) {
+  if (file.empty()) return xdksim::defaultProfile();
+  try {
+    return xdksim::readProfileFile(file);
+  } catch (xdksim::ProfileFault const& fault) {
+    throw UsageFault(fault.what());
+  }
+}
+
+/// A chip of the asked profile, not yet up.
+Chip chipFor(Request const& request) { return Chip(readProfile(request.profile), request.profile); }
+
+bool wantsColour() {
+  char const* const terminal = std::getenv("TERM");
+  return isatty(STDOUT_FILENO) != 0 && !std::getenv("NO_COLOR") && terminal &&
+         std::strcmp(terminal, "dumb") != 0;
+}
+
+}  // namespace
+
+void demo(Request const&, std::ostream& out) {
+  printDemo(xdksim::defaultProfile(), wantsColour(), out);
+}
+
+void reportSummary(Request const& request, std::ostream& out) {
+  Chip chip = chipFor(request);
+  chip.bringUp();
+  if (request.tableId.empty())
+    printSummary(chip, out);
+  else
+    printTableSummary(chip, static_cast<U32>(std::stoul(request.tableId)), out);
+}
+
+void reportTables(Request const& request, std::ostream& out) {
+  Chip chip = chipFor(request);
+  chip.bringUp();
+  printTables(chip, out);
+}
+
+void bringUp(Request const& request, std::ostream& out) {
+  Chip chip = chipFor(request);
+  printBringUp(chip, out);
+}
+
+void profile(Request const&, std::ostream& out) {
+  out << xdksim::writeProfile(xdksim::defaultProfile());
+}
+
+void types(Request const& request, std::ostream& out) {
+  if (request.json)
+    printTypesAsJson(out);
+  else
+    printTypes(out);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,30 @@
+// The commands of the tool.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+namespace kestrel {
+
+/// What the user has asked for.  A command looks at the options that it has.
+struct Request;
+
+/// Prints to the stream.  All that bring a chip up throw `UsageFault` for a bad profile.
+using Command = void (*)(Request const&, std::ostream&);
+
+struct Request {
+  Command command = nullptr;
+  std::string profile;  ///< a file; empty for the built-in profile
+  std::string tableId;  ///< decimal; empty for all tables
+  bool json = false;
+};
+
+void demo(Request const& request, std::ostream& out);
+/// Throws `UsageFault` also for a table that the chip doesn't have.
+void reportSummary(Request const& request, std::ostream& out);
+void reportTables(Request const& request, std::ostream& out);
+void bringUp(Request const& request, std::ostream& out);
+void profile(Request const& request, std::ostream& out);
+void types(Request const& request, std::ostream& out);
+
+}  // namespace kestrel

@@ -1,0 +1,76 @@
+// Reads descriptors.
+#include "tools/kestrel/TypeDump.h"
+
+#include "Kestrel/Kestrel.module.h"
+#include "Kestrel/XpTableCliHelper.module.h"
+#include "Kestrel/XpTableManSm.module.h"
+
+namespace kestrel {
+
+namespace {
+
+std::string text(Mox::Name const& name) { return std::string(name.view()); }
+
+std::optional<std::string> nameOf(Mox::MoxType const* type) {
+  if (!type) return std::nullopt;
+  return text(type->fullTypeName());
+}
+
+char const* kindOf(Mox::MoxType const& type) {
+  if (type.isEnumType()) return "enumeration";
+  if (type.isValue()) return "value";
+  return type.isEntity() ? "entity" : "object";
+}
+
+std::vector<ArgumentDump> dumpConstructor(Mox::MoxType const& type) {
+  std::vector<ArgumentDump> arguments;
+  auto const& types = type.constructorArgTypes();
+  for (Mox::Name const& name : type.constructorArgNames())
+    arguments.push_back({text(name), text(types[arguments.size()])});
+  return arguments;
+}
+
+AttributeDump dumpAttribute(Mox::MoxAttr const& attribute) {
+  return {attribute.id(),
+          text(attribute.name()),
+          nameOf(attribute.type()).value_or(""),
+          nameOf(attribute.keyType()),
+          attribute.flags(),
+          attribute.introspectionFlags()};
+}
+
+// The queue has the base's attributes ahead of the type's own.
+std::vector<AttributeDump> dumpAttributes(Mox::MoxType const& type) {
+  std::vector<AttributeDump> attributes;
+  std::size_t inherited = type.base() ? type.base()->attributeQ().size() : 0;
+  for (auto const& attribute : type.attributeQ())
+    if (inherited > 0)
+      --inherited;
+    else
+      attributes.push_back(dumpAttribute(*attribute));
+  return attributes;
+}
+
+TypeDump dumpType(Mox::MoxType const& type) {
+  return {text(type.fullTypeName()), kindOf(type),        nameOf(type.base()), type.size(),
+          dumpConstructor(type),     dumpAttributes(type)};
+}
+
+ModuleDump dumpModule(char const* name, frame::Module const& module) {
+  ModuleDump dump{name, {}};
+  for (frame::TypeRow const* row : module.types())
+    dump.types.push_back(dumpType(*row->descriptor()));
+  return dump;
+}
+
+}  // namespace
+
+std::string flagText(U32 word) { return std::string(Mox::format("0x%X", word).view()); }
+
+std::vector<ModuleDump> dumpModules() {
+  return {dumpModule("Kestrel", Kestrel::moxModuleKestrel()),
+          dumpModule("XpTableManSm", Kestrel::moxModuleXpTableManSm()),
+          dumpModule("XpTableCliHelper", Kestrel::moxModuleXpTableCliHelper())};
+}
+
+}  // namespace kestrel
