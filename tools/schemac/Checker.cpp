@@ -18,8 +18,7 @@ class Checker {
 
   void file(Schema const& schema) {
     Position const top{schema.file, 1, 1};
-    if (schema.module.empty() && !schema.closed)
-      diagnostics_.error(top, "this file names no module");
+    if (schema.module.empty()) diagnostics_.error(top, "this file names no module");
     if (!schema.module.empty() && !modules_.insert(schema.module).second)
       diagnostics_.error(top, "module " + quoted(schema.module) + " stands in another file too");
     externs(schema);

@@ -19,6 +19,15 @@ std::string optionText(Options const& options, std::string const& name) {
   return found == options.end() ? "" : found->second.text;
 }
 
+void addRange(Scope& scope, Row const& row) {
+  auto& range = scope.lists["range"];
+  if (!row.range) return;
+  Scope& bounds = range.emplace_back();
+  bounds.texts["least"] = std::to_string(row.range->least);
+  bounds.texts["most"] = std::to_string(row.range->most);
+  bounds.texts["message"] = row.range->message;
+}
+
 }  // namespace
 
 std::string capitalised(std::string_view name) { return withFirst(name, 'a', 'A'); }
@@ -68,7 +77,6 @@ Scope Names::rowScope(Type const& type, Row const& row) const {
   scope.shape = row.shape->name;
   scope.texts["name"] = row.name;
   scope.texts["Name"] = capitalised(row.name);
-  scope.texts["attribute"] = row.name;
   scope.texts["id"] = row.id == noNumber ? "" : std::to_string(row.id);
   scope.texts["shape"] = row.shape->name;
   for (Shape const& shape : shapes()) {
@@ -82,13 +90,7 @@ Scope Names::rowScope(Type const& type, Row const& row) const {
   if (auto use = keyType(type, row)) key.push_back(useScope(type, *use));
   scope.texts["by"] = row.by ? row.by->text : "";
   scope.texts["default"] = row.defaultValue ? row.defaultValue->text : "";
-  auto& range = scope.lists["range"];
-  if (row.range) {
-    Scope& bounds = range.emplace_back();
-    bounds.texts["least"] = std::to_string(row.range->least);
-    bounds.texts["most"] = std::to_string(row.range->most);
-    bounds.texts["message"] = row.range->message;
-  }
+  addRange(scope, row);
   auto& args = scope.lists["args"];
   auto& others = scope.lists["otherArgs"];
   for (Argument const& argument : arguments(type, row)) {

@@ -85,7 +85,7 @@ struct Extern {
   Position at;
 };
 
-/// A whole file.  An empty `module` or `header` wasn't given.
+/// A whole file.  An empty `header` wasn't given.
 struct Schema {
   std::string file;
   std::string module;

@@ -91,8 +91,7 @@ void addConstructor(Names const& names, Type const& type, Scope& scope) {
     });
     (isOwn ? own : base).push_back(params.back());
   }
-  for (auto const& [flag, list] : {std::pair{"oneParam", &params}, {"oneBaseParam", &base}})
-    scope.flag(flag, list->size() == 1);
+  scope.flag("oneParam", params.size() == 1);
   bool takesName = !params.empty() && params.front().texts["name"] == "name";
   scope.flag("takesName", takesName);
   scope.flag("takesOnlyName", takesName && params.size() == 1);

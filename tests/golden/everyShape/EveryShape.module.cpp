@@ -1,0 +1,63 @@
+// What the module EveryShape registers, in order.  Made by schemac from everyShape.schema.
+#include "everyShape/EveryShape.module.h"
+
+#include "everyShape/Mood.h"
+#include "everyShape/Mix.h"
+#include "everyShape/Leaf.h"
+#include "everyShape/Every.h"
+#include "everyShape/Derived.h"
+#include "everyShape/Shelf.h"
+#include "everyShape/Knob.h"
+#include "everyShape/Level.h"
+#include "everyShape/Heap.h"
+#include "everyShape/Grove.h"
+#include "everyShape/Brook.h"
+#include "everyShape/Engine.h"
+
+namespace everyShape {
+
+namespace {
+
+constexpr frame::TypeOf used[] = {
+    Mox::Entity::_fwkType,
+};
+
+constexpr frame::TypeOf alphabetical[] = {
+    Brook::_fwkType,
+    Derived::_fwkType,
+    Engine::_fwkType,
+    Every::_fwkType,
+    Grove::_fwkType,
+    Heap::_fwkType,
+    Knob::_fwkType,
+    Leaf::_fwkType,
+    Level::_fwkType,
+    Mix::_fwkType,
+    _fwkType_Mood,
+    Shelf::_fwkType,
+};
+
+constexpr frame::TypeRow const* types[] = {
+    &moodRow,
+    &mixRow,
+    &leafRow,
+    &everyRow,
+    &derivedRow,
+    &shelfRow,
+    &knobRow,
+    &levelRow,
+    &heapRow,
+    &groveRow,
+    &brookRow,
+    &engineRow,
+};
+
+constinit frame::Module thisModule("everyShape", used, alphabetical, types);
+
+}  // namespace
+
+void moxInitEveryShape() { thisModule.initialise(); }
+
+frame::Module& moxModuleEveryShape() { return thisModule; }
+
+}  // namespace everyShape

@@ -1,0 +1,22 @@
+// The fields and tags of everyShape::Heap.  Made by schemac from everyShape.schema.
+#pragma once
+
+#include <cstddef>
+
+#include "everyShape/Heap.h"
+#include "frame/Record.h"
+
+namespace everyShape {
+
+struct Heap::Tags {
+  struct Item {
+    using Owner = Heap;
+    using Key = U32;
+    using Value = bool;
+    using Node = MoxItem;
+    static auto& map(Owner& owner) { return owner.item_; }
+    static auto const& map(Owner const& owner) { return owner.item_; }
+  };
+};
+
+}  // namespace everyShape

@@ -1,0 +1,38 @@
+// everyShape::Level: its descriptor.  Made by schemac from everyShape.schema.
+#include "everyShape/Level.h"
+
+#include "everyShape/EveryShape.module.h"
+#include "frame/Descriptor.h"
+
+namespace everyShape {
+
+namespace {
+
+class Type : public Mox::MoxType {
+ public:
+  Type() : MoxType("Level", nullptr, nullptr, {}) {}
+};
+
+Mox::MoxType* levelType = nullptr;
+
+constexpr frame::ArgRow constructorArgs[] = {
+    {"value", "U8"},
+};
+
+constexpr frame::AttributeRow attributeRows[] = {
+    {2, "value", Mox::Builtin<U8>::_fwkType, nullptr, {0x220109, 0x40000400}, 2},
+    {3, "hash", Mox::Builtin<U32>::_fwkType, nullptr, {0x220001, 0x40000400}, 0},
+};
+
+Mox::MoxAttr const* attributeCache[std::size(attributeRows)];
+
+}  // namespace
+
+frame::TypeRow const levelRow = {"Level", "everyShape::Level", frame::TypeKind::value,
+    Level::_fwkType, nullptr, sizeof(Level), constructorArgs, attributeRows, attributeCache,
+    "value"};
+
+Mox::MoxType* Level::_fwkType() { return frame::descriptor<Type>(levelType, moxInitEveryShape); }
+Mox::MoxType const* Level::fwkType() const { return _fwkType(); }
+
+}  // namespace everyShape

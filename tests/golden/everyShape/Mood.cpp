@@ -1,0 +1,51 @@
+// everyShape::Mood: its names, and look-ups in them.  Made by schemac from everyShape.schema.
+#include "everyShape/Mood.h"
+
+#include "everyShape/EveryShape.module.h"
+#include "frame/Enumeration.h"
+
+namespace everyShape {
+
+namespace {
+
+constexpr char const* names[] = {
+    "calm",
+    "tense",
+};
+
+constexpr frame::EnumTable table{"Mood", names};
+
+class Type : public Mox::MoxType {
+ public:
+  Type() : MoxType("Mood", nullptr, nullptr, {}) {}
+};
+
+Mox::MoxType* moodType = nullptr;
+
+constexpr frame::AttributeRow attributeRows[] = {
+    {0, "calm", _fwkType_Mood, nullptr, {0x20001, 0x40200400}, 0},
+    {1, "tense", _fwkType_Mood, nullptr, {0x20001, 0x40200400}, 0},
+};
+
+Mox::MoxAttr const* attributeCache[std::size(attributeRows)];
+
+}  // namespace
+
+frame::TypeRow const moodRow = {"Mood", "everyShape::Mood", frame::TypeKind::enumeration,
+    _fwkType_Mood, nullptr, sizeof(Mood), {}, attributeRows, attributeCache};
+
+Mox::MoxType* _fwkType_Mood() { return frame::descriptor<Type>(moodType, moxInitEveryShape); }
+
+Mox::String8 stringValue(Mood value) { return frame::enumText(table, value); }
+Mood MoodInstance(U32 number) { return static_cast<Mood>(frame::enumByNumber(table, number)); }
+Mood MoodInstance(Mox::String8 const& name) {
+  return static_cast<Mood>(frame::enumByName(table, name));
+}
+Mox::String8 valueToStrep(Mood const& value) { return Mox::valueToStrep(stringValue(value)); }
+Mood sequenceToValue(Mox::String8::IteratorConst& at, Mox::String8::IteratorConst const& end,
+    Mood*) {
+  return static_cast<Mood>(frame::enumParse(table, at, end));
+}
+std::ostream& operator<<(std::ostream& out, Mood const& value) { return out << stringValue(value); }
+
+}  // namespace everyShape
