@@ -139,7 +139,7 @@ template <class Subject>
 void change(benchmark::State& state, U32 size, Measured measured) {
   auto const joining = shuffledKeys<typename Subject::Key>(size, 1);
   auto const leaving = shuffledKeys<typename Subject::Key>(size, 2);
-  U32 const maps = 16384 / size;
+  U32 const maps = 4096 / size;
   for (auto _ : state) {
     std::vector<Subject> subjects(maps);
     double const inserting = seconds(subjects, [&joining](Subject& subject) {

@@ -1,6 +1,6 @@
 // What a change costs: nobody watching, an equal value, and 1, 3 and 10 observers.
 //
-// Run:  build/release/bin/bench_Mutators --benchmark_repetitions=9 \
+// Run:  build/release/bin/bench_Mutators --benchmark_repetitions=9
 //           --benchmark_report_aggregates_only=true --benchmark_enable_random_interleaving=true
 // Read: compare medians of one run, as ratios; machines are noisy. Each row of ours stands beside
 // its

@@ -22,7 +22,7 @@ if(PkgConfig_FOUND)
 endif()
 
 kestrel_sources(sources bench/floor)
-kestrel_library(BenchFloor SHARED SOURCES ${sources})
+kestrel_library(BenchFloor SHARED SOURCES ${sources} LINK Mox)
 
 file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/bench/*.cpp")
 foreach(source IN LISTS sources)

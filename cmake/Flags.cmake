@@ -10,10 +10,10 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_INSTALL_LIBDIR lib CACHE PATH "Folder of the libraries below the prefix")
 
 # The build types are spelled out: assertions never hang on NDEBUG, and a sanitizer run is a type
-# of its own.
+# of its own.  -g1 is what a stack trace needs.
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -g1")
 set(CMAKE_CXX_FLAGS_DEBUG "-O0 -g -D_GLIBCXX_ASSERTIONS")
-set(CMAKE_CXX_FLAGS_ASAN "-O1 -g -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS \
+set(CMAKE_CXX_FLAGS_ASAN "-O1 -g1 -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS \
 -fsanitize=address,undefined -fno-sanitize-recover=all")
 
 get_property(several_types GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)

@@ -4,6 +4,8 @@
 #include "Mox/Entity.h"
 #include "Mox/Strep.h"
 
+#include <type_traits>
+
 namespace frame {
 
 /// Raises `NameInUseException` "Reinstantiating the entity with name <name> where constructor
@@ -12,14 +14,23 @@ namespace frame {
 [[noreturn]] void reinstantiated(Mox::String8 const& name, char const* parameter,
                                  Mox::String8 const& asked, Mox::String8 const& present);
 
+/// How a parameter is shown.  Truth values go through the unsigned conversion, as 1 and 0.
+template <class T>
+Mox::String8 parameterText(T const& value) {
+  using Mox::valueToStrep;
+  if constexpr (std::is_same_v<T, bool>)
+    return valueToStrep(static_cast<unsigned long long>(value));
+  else
+    return valueToStrep(value);
+}
+
 /// Compares one constructor parameter of the child called `name`, given as text; raises at a
 /// difference.
 template <class T>
 void requireSame(Mox::String8 const& name, char const* parameter, T const& asked,
                  T const& present) {
-  using Mox::valueToStrep;
   if (!(asked == present))
-    reinstantiated(name, parameter, valueToStrep(asked), valueToStrep(present));
+    reinstantiated(name, parameter, parameterText(asked), parameterText(present));
 }
 
 }  // namespace frame

@@ -1,10 +1,10 @@
 // A small fixed set of bits in one word.
 #pragma once
 
+#include "Mox/Assert.h"
+
 #include <limits>
 #include <type_traits>
-
-#include "Mox/Assert.h"
 
 namespace Mox {
 

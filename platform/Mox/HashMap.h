@@ -1,18 +1,18 @@
 // The typed face of hash maps, and the iterators that survive any change of their map.
 #pragma once
 
+#include "Mox/HashMapGeneric.h"
+
 #include <cstddef>
 #include <iterator>
 #include <type_traits>
 
-#include "Mox/HashMapGeneric.h"
-
 namespace Mox {
 
 /// The position of a change-proof walk: it holds its node, and finds its way on by the order of the
-/// map when the map has changed since it last looked.  A removed element isn't seen unless it is the
-/// current one, which stays readable; an inserted one is seen if it falls behind the position.  The
-/// map must outlive the walk.
+/// map when the map has changed since it last looked.  A removed element isn't seen unless it is
+/// the current one, which stays readable; an inserted one is seen if it falls behind the position.
+/// The map must outlive the walk.
 class HashMapIteratorGeneric {
  public:
   HashMapIteratorGeneric() = default;
@@ -20,14 +20,7 @@ class HashMapIteratorGeneric {
   explicit operator bool() const noexcept { return static_cast<bool>(node_); }
   /// Steps to the next element.  At the end, nothing.
   void advance() {
-    if (!node_) return;
-    if (map_->changes() == changes_) [[likely]] {
-      PtrInterface* next = map_->next(node_.ptr());
-      node_ = next ? next : map_->findNextBucket(&bucket_);
-    } else {
-      changes_ = map_->changes();
-      node_ = map_->findNextG(node_.ptr(), &bucket_);
-    }
+    if (node_) stepFrom(map_->next(node_.ptr()));
   }
   /// True for two that stand on the same node, or both at the end.
   bool operator==(HashMapIteratorGeneric const& other) const noexcept {
@@ -35,10 +28,34 @@ class HashMapIteratorGeneric {
   }
 
  protected:
-  explicit HashMapIteratorGeneric(HashMapGeneric const& map)
-      : map_(&map), changes_(map.changes()), node_(map.findNextG(nullptr, &bucket_)) {}
+  explicit HashMapIteratorGeneric(HashMapGeneric const& map) : map_(&map), changes_(map.changes()) {
+    seek([&map](int* bucket) { return map.findNextG(nullptr, bucket); });
+  }
   HashMapIteratorGeneric(HashMapGeneric const& map, void const* key, U32 hash)
-      : map_(&map), changes_(map.changes()), node_(map.startAtHash(key, hash, &bucket_)) {}
+      : map_(&map), changes_(map.changes()) {
+    seek([&map, key, hash](int* bucket) { return map.startAtHash(key, hash, bucket); });
+  }
+
+  // Steps on from the node, whose link holds `linked`: which tells something only in a map that
+  // hasn't changed.
+  void stepFrom(PtrInterface* linked) {
+    if (map_->changes() != changes_) [[unlikely]] {
+      changes_ = map_->changes();
+      seek([this](int* bucket) { return map_->findNextG(node_.ptr(), bucket); });
+    } else if (linked) {
+      node_.ptrAssign(linked);
+    } else {
+      seek([this](int* bucket) { return map_->findNextBucket(bucket); });
+    }
+  }
+  // The engine gets the bucket in a copy: an iterator whose parts nobody points at can be kept in
+  // registers.
+  template <class Find>
+  void seek(Find const& find) {
+    int bucket = bucket_;
+    node_.ptrAssign(find(&bucket));
+    bucket_ = bucket;
+  }
 
   HashMapGeneric const* map_ = nullptr;
   int bucket_ = -1;
@@ -74,15 +91,10 @@ class HashMap : public HashMapGeneric {
 
   /// The node under `key`, uncounted; null where there is none.
   Node* find(Key const& key) const noexcept {
-    if constexpr (HashKeepingNode<Node>) {
-      U32 const hash = KeyOps<Key>::hash(key);
-      for (PtrInterface* at = head(hash & mask()); at; at = nextOf(at))
-        if (typed(at)->keyHash() == hash && equals(key, at)) return typed(at);
-    } else {
-      for (PtrInterface* at = head(KeyOps<Key>::hash(key) & mask()); at; at = nextOf(at))
-        if (equals(key, at)) return typed(at);
-    }
-    return nullptr;
+    U32 const hash = KeyOps<Key>::hash(key);
+    PtrInterface* at = head(hash & mask());
+    while (at && !matches(key, hash, *typed(at))) at = nextOf(at);
+    return typed(at);
   }
   bool isMember(Key const& key) const noexcept { return find(key) != nullptr; }
   /// The node under `key`, counted; null where there is none.
@@ -90,22 +102,26 @@ class HashMap : public HashMapGeneric {
 
   /// Inserts a node whose key is absent.
   void newMember(Ptr<Node> const& node) {
-    if (count_ >= bucketCount()) [[unlikely]] grow();
-    Ptr<PtrInterface>* place = headLink(nodeHash<Key>(*node));
-    while (*place && !precedes(*node, *typed(place->ptr())))
-      place = &NodeOps<Node>::next(*typed(place->ptr()));
-    linkIn(*place, node);
+    if (isFull()) [[unlikely]]
+      grow([this](Link&& again) { enterAgain(std::move(again)); });
+    enter(Link(node));
+    countNewMember();
   }
   /// Removes a node, which lives on as long as someone holds it.  A node that isn't in the map is
   /// left alone.
   void deleteMember(Ptr<Node> const& node) {
-    if (node) unlink(nodeHash<Key>(*node), node.ptr());
+    if (!node) return;
+    Link* place = headLink(nodeHash<Key>(*node));
+    while (*place && *place != node) place = &linkOf(*place);
+    if (*place) takeFrom(*place, linkOf(*place));
   }
   /// Removes and returns the node under `key`; null, and nothing done, where there is none.
   Ptr<Node> deleteKey(Key const& key) {
-    Ptr<Node> const node = find(key);
-    deleteMember(node);
-    return node;
+    U32 const hash = KeyOps<Key>::hash(key);
+    Link* place = headLink(hash);
+    while (*place && !matches(key, hash, *typed(place->ptr()))) place = &linkOf(*place);
+    if (!*place) return nullptr;
+    return Ptr<Node>::adopt(typed(takeFrom(*place, linkOf(*place)).release()));
   }
 
   /// A change-proof walk.
@@ -120,11 +136,11 @@ class HashMap : public HashMapGeneric {
         : HashMapIteratorGeneric(map, &key, bitReverse(KeyOps<Key>::hash(key))) {}
     /// A reading walk from a writing one.
     template <std::same_as<Node> Other>
-      requires(!std::same_as<Element, Node>)
-    IteratorOf(IteratorOf<Other> const& other)
+    requires(!std::same_as<Element, Node>) IteratorOf(IteratorOf<Other> const& other)
         : HashMapIteratorGeneric(other) {}
 
-    /// The current node, which this iterator holds; null at the end.  The operations below need one.
+    /// The current node, which this iterator holds; null at the end.  The operations below need
+    /// one.
     Element* node() const noexcept { return typed(node_.ptr()); }
     decltype(auto) key() const { return NodeOps<Node>::key(*typed(node_.ptr())); }
     /// The element's value; of entities that are their own nodes, the entity.
@@ -135,7 +151,7 @@ class HashMap : public HashMapGeneric {
         return node()->value();
     }
     IteratorOf& operator++() {
-      advance();
+      if (node_) stepFrom(nextOf(node_.ptr()));
       return *this;
     }
     /// True if the walked map has `key` now.
@@ -164,12 +180,7 @@ class HashMap : public HashMapGeneric {
     Node& operator*() const noexcept { return *typed(node_); }
     Node* operator->() const noexcept { return typed(node_); }
     RawIterator& operator++() noexcept {
-      if (PtrInterface* const next = nextOf(node_)) {
-        node_ = next;
-      } else {
-        bucket_ = map_->bucketAfter(bucket_);
-        settle(bucket_ < map_->bucketCount() ? map_->head(bucket_) : nullptr);
-      }
+      settle(nextOf(node_));
       return *this;
     }
     RawIterator operator++(int) noexcept {
@@ -181,9 +192,9 @@ class HashMap : public HashMapGeneric {
     bool operator==(std::default_sentinel_t) const noexcept { return node_ == nullptr; }
 
    private:
+    // Stands on `at`, or where that is null on the head of the next bucket that has one.
     void settle(PtrInterface* at) noexcept {
-      while (!at && (bucket_ = map_->bucketAfter(bucket_)) < map_->bucketCount())
-        at = map_->head(bucket_);
+      while (!at && map_->stepBucket(bucket_)) at = map_->head(bucket_);
       node_ = at;
     }
 
@@ -207,13 +218,33 @@ class HashMap : public HashMapGeneric {
   static PtrInterface* nextOf(PtrInterface const* node) noexcept {
     return NodeOps<Node>::next(static_cast<Node const&>(*node));
   }
-  static bool equals(Key const& key, PtrInterface* node) noexcept {
-    return KeyOps<Key>::equals(key, NodeOps<Node>::key(*typed(node)));
+  static bool matches(Key const& key, [[maybe_unused]] U32 hash, Node const& node) noexcept {
+    if constexpr (HashKeepingNode<Node>)
+      if (node.keyHash() != hash) return false;
+    return KeyOps<Key>::equals(key, NodeOps<Node>::key(node));
   }
   static bool precedes(Node const& a, Node const& b) noexcept {
     return KeyOps<Key>::less(NodeOps<Node>::key(a), NodeOps<Node>::key(b));
   }
-  Ptr<PtrInterface>* headLink(U32 hash) noexcept { return &buckets_[hash & mask()]; }
+  static Link& linkOf(Link const& node) noexcept { return NodeOps<Node>::next(*typed(node.ptr())); }
+  Link* headLink(U32 hash) noexcept { return &buckets_[hash & mask()]; }
+
+  void enter(Link&& node) {
+    Link* place = headLink(nodeHash<Key>(*typed(node.ptr())));
+    while (*place && !precedes(*typed(node.ptr()), *typed(place->ptr()))) place = &linkOf(*place);
+    linkIn(*place, std::move(node), linkOf(node));
+  }
+  // For nodes that come in the order of a walk.  No key that has an order is less than one ahead of
+  // it then, and needs no comparison to find that its place is the tail.
+  void enterAgain(Link&& node) {
+    if constexpr (NumberKey<Key> || StringKey<Key>) {
+      Link* place = headLink(nodeHash<Key>(*typed(node.ptr())));
+      while (*place) place = &linkOf(*place);
+      *place = std::move(node);
+    } else {
+      enter(std::move(node));
+    }
+  }
 
   void copyNodes(HashMap const& other) {
     for (Node const& node : other) newMember(new Node(node.key(), node.value()));

@@ -5,8 +5,8 @@
 
 namespace Mox {
 
-/// The key operations that `HashMapGeneric` calls.  There is one instance for each node type, shared
-/// by all its maps.
+/// The key operations that `HashMapGeneric` calls.  There is one instance for each node type,
+/// shared by all its maps.
 class HashMapVTableGeneric {
  public:
   // The virtual operations stand in the order that the platform's binaries expect.

@@ -1,12 +1,12 @@
 // What a collection asks of its keys: a hash, equality, an order.
 #pragma once
 
+#include "Mox/Integers.h"
+#include "Mox/String8.h"
+
 #include <concepts>
 #include <cstring>
 #include <type_traits>
-
-#include "Mox/Integers.h"
-#include "Mox/String8.h"
 
 namespace Mox {
 
@@ -22,7 +22,9 @@ concept HashedKey = requires(Key const& key) {
 
 /// A value with one field.
 template <class Key>
-concept SingleFieldKey = requires(Key const& key) { static_cast<U32>(key.value()); };
+concept SingleFieldKey = requires(Key const& key) {
+  static_cast<U32>(key.value());
+};
 
 /// A string by representation: its hash is worth keeping.
 template <class Key>
@@ -30,7 +32,8 @@ concept StringKey = HashedKey<Key> && requires(Key const& key) {
   { key.view() } -> std::same_as<std::string_view>;
 };
 
-/// Byte-wise equality.  Keys are short: words read in place beat a call that is made for any length.
+/// Byte-wise equality.  Keys are short: words read in place beat a call that is made for any
+/// length.
 inline bool sameBytes(std::string_view a, std::string_view b) noexcept {
   std::size_t const size = a.size();
   if (size != b.size()) return false;

@@ -1,10 +1,10 @@
 // The node of a value collection, and how a hash map reaches into any node.
 #pragma once
 
-#include <cstddef>
-
 #include "Mox/KeyOps.h"
 #include "Mox/PtrInterface.h"
+
+#include <cstddef>
 
 namespace Mox {
 
@@ -61,7 +61,9 @@ concept HashKeepingNode = requires(Node const& node) {
 /// A node whose key isn't what `key()` says, such as an entity that is its own node: its
 /// `moxKey()` gives the key.
 template <class Node>
-concept MoxKeyedNode = requires(Node const& node) { node.moxKey(); };
+concept MoxKeyedNode = requires(Node const& node) {
+  node.moxKey();
+};
 
 /// How a hash map reaches into a node.  A node class declares a member
 /// `Mox::Ptr<Mox::PtrInterface> moxNext_` and befriends this struct, or stands on `MapNode`.  Its

@@ -3,6 +3,7 @@
 
 #include "Mox/AttributeId.h"
 #include "Mox/BoundedIntegers.h"
+#include "Mox/Dir.h"
 #include "Mox/Entity.h"
 #include "Mox/Exception.h"
 #include "Mox/HashMap.h"

@@ -76,7 +76,7 @@ class PtrInterface : public VFPtrInterface {
   void moxMarkedForDeletionIs(bool marked) const noexcept;
 };
 
-/// Told to the module initialisers' linker line: keeps the access to a pointer pair alive.
+/// Called by the module initialisers with the address of a pair of pointers; does nothing to it.
 void forcePointerAccessH(void const* pair);
 
 /// Diagnostics: when set, objects that are made immortal are struck from the tracker.

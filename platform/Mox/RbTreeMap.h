@@ -1,12 +1,12 @@
 // The typed face of ordered maps, and the iterators that survive any change of their map.
 #pragma once
 
+#include "Mox/KeyOps.h"
+#include "Mox/RbTreeMapGeneric.h"
+
 #include <cstddef>
 #include <iterator>
 #include <type_traits>
-
-#include "Mox/KeyOps.h"
-#include "Mox/RbTreeMapGeneric.h"
 
 namespace Mox {
 
@@ -104,8 +104,7 @@ class RbTreeMap : public RbTreeMapGeneric {
         : map_(&map), changes_(map.changes()), node_(map.atOrBehind(key)) {}
     /// A reading walk from a writing one.
     template <std::same_as<Node> Other>
-      requires(!std::same_as<Element, Node>)
-    IteratorOf(IteratorOf<Other> const& other)
+    requires(!std::same_as<Element, Node>) IteratorOf(IteratorOf<Other> const& other)
         : map_(other.map_), changes_(other.changes_), node_(other.node_) {}
 
     explicit operator bool() const noexcept { return static_cast<bool>(node_); }

@@ -7,8 +7,8 @@ namespace Mox {
 
 /// What a node bears for its tree: the children, which it holds, its parent and its colour.
 struct RbLinks {
-  Ptr<PtrInterface> child[2];        // left, right
-  PtrInterface* parent = nullptr;    // holds this node, so it lives as long as the link is set
+  Ptr<PtrInterface> child[2];      // left, right
+  PtrInterface* parent = nullptr;  // holds this node, so it lives as long as the link is set
   bool red = false;
 };
 

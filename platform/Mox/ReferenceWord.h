@@ -47,10 +47,12 @@ class ReferenceWord {
 
   /// One reference fewer; true when that was the last and nothing keeps the object.
   bool dec() noexcept {
+    U32 left;
     if (threadSafe) [[unlikely]]
-      return ((std::atomic_ref(word_).fetch_sub(1, std::memory_order_acq_rel) - 1) & releaseMask) ==
-             0;
-    return (--word_ & releaseMask) == 0;
+      left = std::atomic_ref(word_).fetch_sub(1, std::memory_order_acq_rel) - 1;
+    else
+      left = --word_;
+    return (left & releaseMask) == 0;
   }
 
   void flagIs(U32 flag, bool on) noexcept {

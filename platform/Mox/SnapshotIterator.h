@@ -1,18 +1,20 @@
 // The walk over a snapshot, which no later change of the collection reaches.
 #pragma once
 
+#include "Mox/Ptr.h"
+
 #include <cstddef>
 #include <type_traits>
 #include <vector>
-
-#include "Mox/Ptr.h"
 
 namespace Mox {
 
 /// The walk of a collection's own that leaves its members uncounted: a list has an iterator for it,
 /// a map is a range.
 template <class C>
-concept ListCollection = requires(C& collection) { typename C::LrIterator; };
+concept ListCollection = requires(C& collection) {
+  typename C::LrIterator;
+};
 
 template <class C>
 struct SnapshotWalk {

@@ -16,10 +16,14 @@ namespace {
 /// Registers a module's types when it is made.
 class Initialiser {
  public:
-  explicit Initialiser(frame::Module& module) { module.load(); }
+  explicit Initialiser(frame::Module& module) {
+    module.load();
+    Mox::forcePointerAccessH(&pair_);
+  }
 
  private:
   std::ios_base::Init standardStreams_;
+  void const* pair_[2] = {nullptr, nullptr};
 };
 
 Initialiser const kestrel(moxModuleKestrel());

@@ -1,9 +1,8 @@
 // Small bit sets, and the end of the process at a position out of range.
 #include "Mox/BitSet.h"
+#include "Mox/Integers.h"
 
 #include <gtest/gtest.h>
-
-#include "Mox/Integers.h"
 
 namespace Mox {
 namespace {

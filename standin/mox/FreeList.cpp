@@ -1,9 +1,9 @@
 // The free lists, and the storage of counted objects that comes from them.
 #include "standin/mox/FreeList.h"
 
-#include <new>
-
 #include "Mox/PtrInterface.h"
+
+#include <new>
 
 namespace Mox {
 
@@ -68,7 +68,7 @@ void given(void* block, std::size_t size) noexcept {
       return;
     }
   }
-  ::operator delete(block, blockSize(size));
+  ::operator delete(block);
 }
 
 }  // namespace
@@ -78,9 +78,7 @@ void FreeList::give(void* block, std::size_t size) noexcept { given(block, size)
 std::size_t FreeList::kept(std::size_t size) noexcept { return classes[classOf(size)].blocks; }
 
 void* PtrInterface::operator new(std::size_t size) { return taken(size); }
-void PtrInterface::operator delete(void* object, std::size_t size) noexcept {
-  given(object, size);
-}
+void PtrInterface::operator delete(void* object, std::size_t size) noexcept { given(object, size); }
 void VFPtrInterface::operator delete(void* object, std::size_t size) noexcept {
   given(object, size);
 }

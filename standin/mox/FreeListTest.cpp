@@ -1,11 +1,9 @@
 // The free lists: what they keep, and that blocks may cross the thread-safety switch.
+#include "Mox/MapNode.h"
 #include "standin/mox/FreeList.h"
 
 #include <gtest/gtest.h>
-
 #include <vector>
-
-#include "Mox/MapNode.h"
 
 namespace Mox {
 namespace {

@@ -1,11 +1,11 @@
 // Insertion, removal, growth and the change-proof walk of hash maps.
 #include "Mox/HashMapGeneric.h"
 
+#include "standin/mox/FreeList.h"
+
 #include <algorithm>
 #include <memory>
 #include <utility>
-
-#include "standin/mox/FreeList.h"
 
 namespace Mox {
 
@@ -18,11 +18,6 @@ Link* newBuckets(U32 log2) {
   auto* const buckets = static_cast<Link*>(FreeList::take(count * sizeof(Link)));
   std::uninitialized_value_construct_n(buckets, count);
   return buckets;
-}
-
-// Links have moved out of the buckets before they are freed.
-void freeBuckets(Link* buckets, U32 log2) noexcept {
-  FreeList::give(buckets, (std::size_t{1} << log2) * sizeof(Link));
 }
 
 U8 log2For(U32 size) noexcept {
@@ -47,61 +42,41 @@ void HashMapGeneric::setSize0(U32 buckets) {
   log2Buckets_ = log2;
 }
 
+// The links in them have moved out.
+void HashMapGeneric::freeBuckets(Link* buckets, U32 log2) noexcept {
+  FreeList::give(buckets, (std::size_t{1} << log2) * sizeof(Link));
+}
+
+Link* HashMapGeneric::doubledBuckets() {
+  Link* const old = std::exchange(buckets_, newBuckets(log2Buckets_ + 1u));
+  ++log2Buckets_;
+  return old;
+}
+
 void HashMapGeneric::enter(Link&& node) {
   Link* place = &buckets_[bitReverse(keys_->hash(node.ptr())) & mask()];
   while (*place && !keys_->keyLessThan(nullptr, place->ptr(), node.ptr()))
     place = &linkOf(place->ptr());
-  linkOf(node.ptr()) = std::move(*place);
-  *place = std::move(node);
+  linkIn(*place, std::move(node), linkOf(node.ptr()));
 }
 
 void HashMapGeneric::newMemberG(Link const& node, void const*) {
-  if (count_ >= bucketCount()) grow();
+  if (isFull()) grow([this](Link&& again) { enter(std::move(again)); });
   enter(Link(node));
-  ++count_;
-  ++changes_;
-}
-
-void HashMapGeneric::grow() {
-  U32 const oldLog2 = log2Buckets_;
-  Link* const old = buckets_;
-  buckets_ = newBuckets(oldLog2 + 1);
-  ++log2Buckets_;
-  // In the old order of the walk, for keys that aren't ordered among each other.
-  for (U32 logical = 0; logical < U32{1} << oldLog2; ++logical) {
-    U32 const bucket = oldLog2 ? bitReverse(logical) >> (32 - oldLog2) : 0;
-    for (Link at = std::move(old[bucket]); at;) {
-      Link rest = std::move(linkOf(at.ptr()));
-      enter(std::move(at));
-      at = std::move(rest);
-    }
-  }
-  freeBuckets(old, oldLog2);
+  countNewMember();
 }
 
 void HashMapGeneric::deleteMember(Link const& node) {
-  if (node) unlink(bitReverse(keys_->hash(node.ptr())), node.ptr());
-}
-
-void HashMapGeneric::unlink(U32 hash, PtrInterface const* node) {
-  Link* place = &buckets_[hash & mask()];
-  while (*place && place->ptr() != node) place = &linkOf(place->ptr());
-  if (!*place) return;
+  if (!node) return;
+  Link* place = &buckets_[bitReverse(keys_->hash(node.ptr())) & mask()];
+  while (*place && *place != node) place = &linkOf(place->ptr());
   // The node goes last of all: its end may look at this map.
-  Link const gone = std::move(*place);
-  *place = std::move(linkOf(gone.ptr()));
-  --count_;
-  ++changes_;
+  if (*place) takeFrom(*place, linkOf(node.ptr()));
 }
 
 void HashMapGeneric::emptyAllBuckets() {
-  for (U32 bucket = 0; count_ && bucket < bucketCount(); ++bucket) {
-    while (Link const node = std::move(buckets_[bucket])) {
-      buckets_[bucket] = std::move(linkOf(node.ptr()));
-      --count_;
-      ++changes_;
-    }
-  }
+  for (U32 bucket = 0; count_ && bucket < bucketCount(); ++bucket)
+    while (PtrInterface* const node = head(bucket)) takeFrom(buckets_[bucket], linkOf(node));
 }
 
 PtrInterface* HashMapGeneric::findNextG(PtrInterface const* node, int* bucket) const {

@@ -2,7 +2,6 @@
 #include "Mox/LinkQueue.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 
 namespace Mox {

@@ -1,13 +1,12 @@
 // Walking, finding and changing take no storage beyond the node of a new element.
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cstdlib>
-#include <new>
-
 #include "Mox/HashMap.h"
 #include "Mox/Name.h"
 #include "Mox/RbTreeMap.h"
+
+#include <array>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <new>
 
 namespace {
 

@@ -1,9 +1,8 @@
 // Ordered maps: ascending walks, replacement, balance, and iterators under change.
 #include "Mox/RbTreeMap.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <map>
 #include <random>
 #include <string>

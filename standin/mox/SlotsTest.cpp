@@ -1,11 +1,10 @@
 // The virtual operations of the runtime's bases stand in the slots that the platform's binaries
 // expect.  A slot is read out of a pointer to member.
-#include <gtest/gtest.h>
-
-#include <cstring>
-
 #include "Mox/Entity.h"
 #include "Mox/HashMapVTable.h"
+
+#include <cstring>
+#include <gtest/gtest.h>
 
 namespace Mox {
 namespace {

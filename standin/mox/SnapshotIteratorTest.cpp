@@ -1,10 +1,9 @@
 // Snapshots: later changes of the collection don't reach them.
+#include "Mox/HashMap.h"
+#include "Mox/ListRaw.h"
 #include "Mox/SnapshotIterator.h"
 
 #include <gtest/gtest.h>
-
-#include "Mox/HashMap.h"
-#include "Mox/ListRaw.h"
 
 namespace Mox {
 namespace {

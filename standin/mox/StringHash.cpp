@@ -40,7 +40,8 @@ U32 throughHead(char const* bytes) noexcept {
   U64 word;
   std::memcpy(&word, bytes, sizeof word);
   Head& head = heads[word * 0x9E3779B97F4A7C15u >> (64 - headBits)];
-  if (head.bytes != word) [[unlikely]] head = {word, through(bytes, sizeof word, 0)};
+  if (head.bytes != word) [[unlikely]]
+    head = {word, through(bytes, sizeof word, 0)};
   return head.hash;
 }
 

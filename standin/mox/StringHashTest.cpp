@@ -1,12 +1,9 @@
 // The quick hash of strings against its definition, and equality of bytes read in words.
-#include "standin/mox/StringHash.h"
+#include "Mox/KeyOps.h"
 
 #include <gtest/gtest.h>
-
 #include <random>
 #include <string>
-
-#include "Mox/KeyOps.h"
 
 namespace Mox {
 namespace {
@@ -17,12 +14,12 @@ U32 byDefinition(std::string const& text) {
   return hash.finish();
 }
 
-TEST(StringHashTest, EmptyStringHashesToZero) { EXPECT_EQ(stringHash(""), 0u); }
+TEST(StringHashTest, EmptyStringHashesToZero) { EXPECT_EQ(String8("").hash(), 0u); }
 
 TEST(StringHashTest, EveryLengthAgreesWithTheDefinition) {
   std::string text;
   for (int length = 0; length < 40; ++length, text += static_cast<char>('a' + length))
-    EXPECT_EQ(stringHash(text), byDefinition(text)) << text;
+    EXPECT_EQ(String8(text).hash(), byDefinition(text)) << text;
 }
 
 TEST(StringHashTest, ManyHeadsAgreeWithTheDefinition) {
@@ -30,14 +27,14 @@ TEST(StringHashTest, ManyHeadsAgreeWithTheDefinition) {
   for (int i = 0; i < 5000; ++i) {
     std::string text(random() % 24, '\0');
     for (char& byte : text) byte = static_cast<char>(random() % 3 ? random() : 0);
-    EXPECT_EQ(stringHash(text), byDefinition(text));
-    EXPECT_EQ(stringHash(text), byDefinition(text)) << "remembered";
+    EXPECT_EQ(String8(text).hash(), byDefinition(text));
+    EXPECT_EQ(String8(text).hash(), byDefinition(text)) << "remembered";
   }
 }
 
 TEST(StringHashTest, HeadOfZerosIsLikeAnyOther) {
   std::string const zeros(9, '\0');
-  EXPECT_EQ(stringHash(zeros), byDefinition(zeros));
+  EXPECT_EQ(String8(zeros).hash(), byDefinition(zeros));
 }
 
 TEST(SameBytesTest, EveryByteCounts) {
