@@ -80,7 +80,7 @@ struct Ours {
   U32 find(Key const& key) const { return map.find(key)->value(); }
   U32 walk() const {
     U32 sum = 0;
-    for (Node const& node : map) sum += node.value();
+    map.forEachNode([&sum](Node const& node) { sum += node.value(); });
     return sum;
   }
   U32 iterate() const {

@@ -22,6 +22,7 @@ if(KESTREL_STANDIN)
   kestrel_sources(sources standin/models)
   kestrel_library(PlatformModels SHARED
     SOURCES ${generated} ${sources} LINK Mox LINK_OWN engines)
+  kestrel_precompile_runtime(PlatformModels)
 endif()
 
 # The modules in the order in which they are registered, and named in the file.
@@ -32,6 +33,7 @@ kestrel_generate(generated NAME KestrelTypes MOX_TYPE SCHEMAS
 kestrel_sources(sources hwmodel src-includes)
 kestrel_library(KestrelTypes SHARED
   SOURCES ${generated} ${sources} LINK PlatformModels Mox Xdk LINK_OWN engines)
+kestrel_precompile_runtime(KestrelTypes)
 set_target_properties(KestrelTypes PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 1)
 # Descriptors are immortal, so what they point into must be.
 target_link_options(KestrelTypes PRIVATE -Wl,-z,nodelete)

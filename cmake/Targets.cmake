@@ -34,6 +34,15 @@ function(kestrel_library name kind)
   endif()
 endfunction()
 
+# Compiles the runtime's headers once for library `name`: generated sources are short and many, and
+# all of them begin with those headers.
+function(kestrel_precompile_runtime name)
+  get_target_property(kind ${name} TYPE)
+  if(NOT kind STREQUAL "INTERFACE_LIBRARY")
+    target_precompile_headers(${name} PRIVATE <Mox/Mox.h>)
+  endif()
+endfunction()
+
 # Makes program `name` from SOURCES, linked with LINK; without any source there is none.
 function(kestrel_program name)
   cmake_parse_arguments(program "" "" "SOURCES;LINK" ${ARGN})

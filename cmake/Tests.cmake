@@ -34,7 +34,7 @@ file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/precompiled.cpp"
 add_library(precompiled OBJECT EXCLUDE_FROM_ALL "${CMAKE_BINARY_DIR}/precompiled.cpp")
 target_link_libraries(precompiled PRIVATE testing)
 target_precompile_headers(precompiled PRIVATE
-  <gtest/gtest.h> <functional> <map> <memory> <sstream> <string> <vector>)
+  <gtest/gtest.h> <functional> <map> <memory> <sstream> <string> <vector> <Mox/Mox.h>)
 
 # Enters program `name` with the suites that `filter` selects as `entry`.
 function(kestrel_test_entry entry name filter)
@@ -81,6 +81,7 @@ if(EXISTS "${PROJECT_SOURCE_DIR}/tests/everyShape.schema")
   kestrel_sources(sources tests/everyShape)
   kestrel_library(EveryShape STATIC SOURCES ${generated} ${sources} LINK engines)
   target_include_directories(EveryShape PUBLIC "${CMAKE_BINARY_DIR}/generated-tests")
+  kestrel_precompile_runtime(EveryShape)
   set(every_shape EveryShape)
 endif()
 

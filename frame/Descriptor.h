@@ -35,6 +35,7 @@ struct AttributeRow {
   std::span<ArgRow const> args = {};  ///< of an instantiating attribute, and of an operation
 };
 
+/// What a type is; a bare object has none of the descriptor's kind flags.
 enum class TypeKind : U8 { value, enumeration, entity, object, bareObject };
 
 /// One type; attributes in the order of declaration.

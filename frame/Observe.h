@@ -29,6 +29,7 @@ void zeroReferences(Mox::BaseCollection const& list);
 /// How an observer finds the list of its notifier, which it knows only as a counted object.
 using ListOf = Mox::BaseCollection& (*)(Mox::PtrInterface const& notifier);
 
+/// The same as the templates above, once the list is known how to be found.
 void registeredIs(Notifiee const& member, bool registered, ListOf listOf);
 void notifierIs(Mox::Entity::NotifieeConst& member, Mox::PtrInterface const* notifier,
                 ListOf listOf);

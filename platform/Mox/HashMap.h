@@ -205,6 +205,26 @@ class HashMap : public HashMapGeneric {
   RawIterator begin() const { return RawIterator(*this); }
   std::default_sentinel_t end() const noexcept { return {}; }
 
+  /// The same walk by a call for each node, `visit(Node&)`: the fastest one.
+  template <class Visit>
+  void forEachNode(Visit&& visit) const {
+    auto const visitChain = [&visit](PtrInterface* at) {
+      for (; at; at = nextOf(at)) visit(*typed(at));
+    };
+    // By four, in which the two top bits of the bucket run through; the two may be the same or
+    // none.
+    U32 const half = bucketCount() / 2;
+    U32 const quarter = half / 2;
+    U32 bucket = 0;
+    do {
+      visitChain(head(bucket));
+      if (half != 0) visitChain(head(bucket | half));
+      if (quarter == 0) continue;
+      visitChain(head(bucket | quarter));
+      visitChain(head(bucket | half | quarter));
+    } while (stepBucket(bucket, quarter));
+  }
+
   /// The first node in the order of the walk, uncounted; null in an empty map.
   Node* first() const { return after(nullptr); }
   /// The node behind `node`, which may have been removed meanwhile; null at the end.

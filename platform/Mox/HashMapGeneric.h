@@ -95,6 +95,13 @@ class HashMapGeneric {
     } while (stepBucket(bucket, oldCount));
     freeBuckets(old, log2Buckets_ - 1u);
   }
+  // An increment whose carry runs downwards from the top bit.
+  static bool stepBucket(U32& bucket, U32 count) noexcept {
+    U32 bit = count >> 1;
+    for (; bucket & bit; bit >>= 1) bucket ^= bit;
+    bucket |= bit;
+    return bit != 0;
+  }
   /// Puts a node into a chain, into the link that reached the node behind it.
   void linkIn(Link& place, Link&& node, Link& nodeLink) noexcept {
     nodeLink = std::move(place);
@@ -121,13 +128,6 @@ class HashMapGeneric {
   Link* buckets_;
 
  private:
-  // An increment whose carry runs downwards from the top bit.
-  static bool stepBucket(U32& bucket, U32 count) noexcept {
-    U32 bit = count >> 1;
-    for (; bucket & bit; bit >>= 1) bucket ^= bit;
-    bucket |= bit;
-    return bit != 0;
-  }
   Link& linkOf(PtrInterface const* node) const noexcept {
     auto* const words = reinterpret_cast<void**>(const_cast<PtrInterface*>(node));
     return *reinterpret_cast<Link*>(words + nextOffset_);

@@ -1,14 +1,14 @@
 // The list of an entity's notifiees.
 #pragma once
 
-#include <cstddef>
-
 #include "Mox/Notifiee.h"
+
+#include <cstddef>
 
 namespace Mox {
 
-/// A singly linked list of notifiees with a raw link in each: it owns no references.  Every link and
-/// unlink adds one to the change counter.
+/// A singly linked list of notifiees with a raw link in each: it owns no references.  Every link
+/// and unlink adds one to the change counter.
 class BaseCollection {
  public:
   using Member = PtrInterface::NotifieeConst;
@@ -37,6 +37,7 @@ class BaseCollection {
   Member* tail_ = nullptr;
 };
 
+/// A collection of references to `T`, which it doesn't own.
 template <class T>
 class BaseRefCollection : public BaseCollection {};
 

@@ -1,28 +1,23 @@
 // Descriptors of types and attributes, and the reactor that registers them.
 #pragma once
 
-#include <vector>
-
 #include "Mox/Entity.h"
+
+#include <vector>
 
 namespace Mox {
 
 class Dir;
 class MoxType;
 
-/// Describes one attribute: what it is called, what it holds, how it is keyed.  Also the scope of the
-/// attributes declared in it, which is how a type holds its own.
+/// Describes one attribute: what it is called, what it holds, how it is keyed.  Also the scope of
+/// the attributes declared in it, which is how a type holds its own.
 class MoxAttr : public Entity {
  public:
   /// A pair of words that the runtime interprets.
   struct AttrFlags {
     U32 first = 0;
     U32 second = 0;
-
-    static constexpr U32 collection = 0x1800000;      // of the first word
-    static constexpr U32 entityPointer = 0x8000000;   // of the first word
-    static constexpr U32 instantiating = 0x10000000;  // of the second word
-    static constexpr U32 constant = 0x40000000;       // of the second word
 
     bool operator==(AttrFlags const&) const = default;
   };
@@ -52,8 +47,8 @@ class MoxAttr : public Entity {
   Ptr<MoxAttr> attr(Name const& name) const;
   /// Strikes the attribute of that name and returns it.
   Ptr<MoxAttr> attrDel(Name const& name);
-  /// Makes an attribute whose elements give their own key, by their attribute `keyAttr` (empty for a
-  /// scalar), and enters it.  The fourth argument is always null.
+  /// Makes an attribute whose elements give their own key, by their attribute `keyAttr` (empty for
+  /// a scalar), and enters it.  The fourth argument is always null.
   Ptr<MoxAttr> attrIs(Name const& name, MoxType const* type, Name const& keyAttr, std::nullptr_t,
                       AttrFlags flags, AttributeId id);
 

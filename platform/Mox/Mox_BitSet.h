@@ -11,7 +11,6 @@ class Mox_BitSet {
 
   constexpr U32 bits() const { return bits_; }
   constexpr bool has(U32 mask) const { return (bits_ & mask) != 0; }
-  constexpr void bitsIs(U32 mask, bool on) { bits_ = on ? bits_ | mask : bits_ & ~mask; }
 
   constexpr bool operator==(Mox_BitSet const& other) const = default;
   constexpr bool operator!=(Mox_BitSet const& other) const = default;

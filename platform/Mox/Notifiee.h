@@ -19,8 +19,8 @@ struct NotifieeLevel {
   NotifieeLevel const* base;
 };
 
-/// An observer.  It holds its notifier (unless it is a weak one) and, once registered, stands in the
-/// notifier's list.  Notifiees are counted objects: hold one by a `Ptr` for as long as it shall
+/// An observer.  It holds its notifier (unless it is a weak one) and, once registered, stands in
+/// the notifier's list.  Notifiees are counted objects: hold one by a `Ptr` for as long as it shall
 /// hear, for one that nobody but a running delivery holds is passed over.
 ///
 /// A weak notifiee must let go of its notifier (`notifierIs(null)` or destruction) in
@@ -74,7 +74,6 @@ class PtrInterface::NotifieeConst : public PtrInterface {
   bool isRegisteredNotifiee() const noexcept { return registered_; }
   Mox_BitSet mox_bitSet() const noexcept { return bits_; }
 
-  NotifieeLevel const* moxLevel() const noexcept { return level_; }
   /// True when this observer is of `level` or derives from it.
   bool moxIsOf(NotifieeLevel const* level) const noexcept {
     for (auto const* mine = level_; mine; mine = mine->base)

@@ -1,16 +1,16 @@
 // The counted strong pointer.
 #pragma once
 
+#include "Mox/Integers.h"
+
 #include <cstddef>
 #include <type_traits>
 #include <utility>
 
-#include "Mox/Integers.h"
-
 namespace Mox {
 
-/// A strong pointer of one word to a counted object; null is a legal value.  Results are handed back
-/// as `Ptr`, arguments taken as `Ptr const&`.  `Ptr<T const>` gives read-only access.
+/// A strong pointer of one word to a counted object; null is a legal value.  Results are handed
+/// back as `Ptr`, arguments taken as `Ptr const&`.  `Ptr<T const>` gives read-only access.
 template <class T>
 class Ptr {
  public:
@@ -20,13 +20,11 @@ class Ptr {
   Ptr(Ptr const& other) noexcept : object_(other.object_) { take(); }
   Ptr(Ptr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
   template <class U>
-    requires std::is_convertible_v<U*, T*>
-  Ptr(Ptr<U> const& other) noexcept : object_(other.ptr()) {
-    take();
-  }
+  requires std::is_convertible_v<U*, T*> Ptr(Ptr<U> const& other)
+  noexcept : object_(other.ptr()) { take(); }
   template <class U>
-    requires std::is_convertible_v<U*, T*>
-  Ptr(Ptr<U>&& other) noexcept : object_(other.release()) {}
+  requires std::is_convertible_v<U*, T*> Ptr(Ptr<U>&& other)
+  noexcept : object_(other.release()) {}
   ~Ptr() { drop(object_); }
 
   Ptr& operator=(Ptr const& other) noexcept {

@@ -1,10 +1,10 @@
 // The base of every counted object.
 #pragma once
 
-#include <cstddef>
-
 #include "Mox/Ptr.h"
 #include "Mox/ReferenceWord.h"
+
+#include <cstddef>
 
 namespace Mox {
 

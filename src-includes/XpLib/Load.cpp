@@ -26,10 +26,17 @@ class Initialiser {
   void const* pair_[2] = {nullptr, nullptr};
 };
 
+/// Makes a trace handle for the SDK's macros too; nothing in this library writes to it.
+class XpTableManSmInitialiser : Initialiser {
+ public:
+  XpTableManSmInitialiser() : Initialiser(moxModuleXpTableManSm()) {}
+
+ private:
+  Mox::TraceHandle xpXdkApiMacros_{"XpXdkApiMacros", false};
+};
+
 Initialiser const kestrel(moxModuleKestrel());
-Initialiser const xpTableManSm(moxModuleXpTableManSm());
-/// Made for the SDK's macros; nothing in this library writes to it.
-Mox::TraceHandle const xpXdkApiMacros("XpXdkApiMacros", false);
+XpTableManSmInitialiser const xpTableManSm;
 Initialiser const xpTableCliHelper(moxModuleXpTableCliHelper());
 
 }  // namespace

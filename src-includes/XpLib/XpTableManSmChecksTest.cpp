@@ -11,6 +11,8 @@ struct Checked {
   char const* signature;  // of the operation that calls
 };
 
+void PrintTo(Checked const& checked, std::ostream* out) { *out << checked.operation; }
+
 constexpr Checked checkedCalls[] = {
     {"xpBdMgr[0]::addDevice",
      "((bdMgr->addDevice( deviceId().value(), &bdTblCtx, tblCopyNum, TABLE_INIT_WITH_FIXED_INFO "
@@ -83,6 +85,8 @@ struct Asked {
   char const* local;
   char const* signature;
 };
+
+void PrintTo(Asked const& asked, std::ostream* out) { *out << asked.manager; }
 
 constexpr Asked askedManagers[] = {
     {"xpBdMgr", "bdMgr", "void Kestrel::TableManSm::doCreateBdTables()"},

@@ -39,14 +39,12 @@ void TableManSm::doUpdateTableStatus(U32 tableId, Mox::String8 const& tableName,
       "void Kestrel::TableManSm::doUpdateTableStatus(U32, Mox::String, void*, U8, U32, U32)");
   // Deliberate: the copy number is one raw byte of the text, and may be a zero.
   traceText(1, here, [&](std::ostream& text) {
-    text << "TableManSm::"
-         << "doUpdateTableStatus"
-         << " DeviceId " << U32(deviceId().value()) << " TableId " << tableId << " tblCopyNum "
-         << tblCpyNum << " plMgrId " << plMgrId << " tableIdForMgr " << tableIdForMgr;
+    text << "TableManSm::" << here.name << " DeviceId " << U32(deviceId().value()) << " TableId "
+         << tableId << " tblCopyNum " << tblCpyNum << " plMgrId " << plMgrId << " tableIdForMgr "
+         << tableIdForMgr;
   });
-  here.site.log("TableManSm::", "doUpdateTableStatus", " DeviceId ", deviceId().value(),
-                " TableId ", tableId, " tblCopyNum ", tblCpyNum, " plMgrId ", plMgrId,
-                " tableIdForMgr ", tableIdForMgr);
+  here.site.log("TableManSm::", here.name, " DeviceId ", deviceId().value(), " TableId ", tableId,
+                " tblCopyNum ", tblCpyNum, " plMgrId ", plMgrId, " tableIdForMgr ", tableIdForMgr);
 
   auto const* const first = *static_cast<xpTableContext**>(xptc);
   if (!first || first->first < 0) return;

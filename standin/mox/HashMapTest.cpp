@@ -70,6 +70,18 @@ TEST(HashMapTest, OneBucketWalks) {
   EXPECT_EQ(rest(map.iterator()), "7");
 }
 
+TEST(HashMapTest, EveryWalkHasTheSameOrderAtEverySize) {
+  for (U32 const size : {1, 2, 4, 8, 64}) {
+    Map map(size);
+    for (U32 key = 0; key < size; key += 1 + key % 3) add(map, {key, key + size});
+    map.deleteKey(size);
+    std::vector<U32> keys;
+    map.forEachNode([&keys](Node& node) { keys.push_back(node.key()); });
+    EXPECT_EQ(list(keys), order(map));
+    EXPECT_EQ(rest(map.iterator()), order(map));
+  }
+}
+
 TEST(HashMapTest, ChainAscendsByKey) {
   Map map(4);
   add(map, {8, 4, 12, 0});

@@ -16,23 +16,20 @@ std::string BringUpWatch::CallId::name() const {
   return manager.name() + "::" + operationOf(call).name;
 }
 
-bool BringUpWatch::BringUp::isUnderWayElsewhere() const {
-  return thread != std::this_thread::get_id() && (isAnnounced || last);
+bool BringUpWatch::isUnderWayElsewhere() const {
+  return bringUp_ && bringUp_->thread != std::this_thread::get_id() &&
+         (bringUp_->isAnnounced || bringUp_->last);
 }
 
-std::string BringUpWatch::BringUp::standing() const {
-  return "that of device " + std::to_string(device) + " stands at " +
-         (last ? last->name() : "its beginning");
-}
-
-void BringUpWatch::refuseOverlap(std::string const& other) const {
-  if (bringUp_ && bringUp_->isUnderWayElsewhere())
-    misuse("two bring-ups overlap: " + bringUp_->standing() + ", and another thread " + other);
+void BringUpWatch::overlap(std::string const& other) const {
+  misuse("two bring-ups overlap: that of device " + std::to_string(bringUp_->device) +
+         " stands at " + (bringUp_->last ? bringUp_->last->name() : "its beginning") + ", and " +
+         (isUnderWayElsewhere() ? "another thread " : "the same thread ") + other);
 }
 
 void BringUpWatch::profileTaken(U32 device) {
   std::lock_guard lock(mutex_);
-  refuseOverlap("takes the profile of device " + std::to_string(device));
+  if (isUnderWayElsewhere()) overlap("takes the profile of device " + std::to_string(device));
   if (bringUp_ && bringUp_->isAnnounced) return;
   bringUp_ = BringUp{std::this_thread::get_id(), device, false, {}};
 }
@@ -44,7 +41,7 @@ void BringUpWatch::callBegins(ManagerId manager, Call call) {
   if (current_ && current_->thread != self)
     misuse("two threads at a time: " + id.name() + " is called while another thread is inside " +
            current_->call.name());
-  refuseOverlap("calls " + id.name());
+  if (isUnderWayElsewhere()) overlap("calls " + id.name());
   current_ = Current{self, id};
   if (bringUp_ && bringUp_->thread == self) bringUp_->last = id;
 }
@@ -58,10 +55,8 @@ void BringUpWatch::callEnds() {
 
 void BringUpWatch::announced(U32 device) {
   std::lock_guard lock(mutex_);
-  std::string other = "begins one of device " + std::to_string(device);
-  refuseOverlap(other);
-  if (bringUp_ && bringUp_->isAnnounced)
-    misuse("two bring-ups overlap: " + bringUp_->standing() + ", and the same thread " + other);
+  bool isNested = bringUp_ && bringUp_->isAnnounced;
+  if (isNested || isUnderWayElsewhere()) overlap("begins one of device " + std::to_string(device));
   bringUp_ = BringUp{std::this_thread::get_id(), device, true, {}};
 }
 

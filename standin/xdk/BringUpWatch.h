@@ -49,8 +49,6 @@ class BringUpWatch {
     U32 device = 0;
     bool isAnnounced = false;
     std::optional<CallId> last;
-    bool isUnderWayElsewhere() const;
-    std::string standing() const;
   };
   struct Current {
     std::thread::id thread;
@@ -59,7 +57,8 @@ class BringUpWatch {
 
   void callBegins(ManagerId manager, Call call);
   void callEnds();
-  void refuseOverlap(std::string const& other) const;
+  bool isUnderWayElsewhere() const;
+  [[noreturn]] void overlap(std::string const& other) const;
 
   std::mutex mutex_;
   std::optional<BringUp> bringUp_;

@@ -27,16 +27,22 @@ void readField(JsonCursor const& cursor, Integer (&field)[room]) {
   for (std::size_t i = 0; i < elements.size(); ++i) readField(elements[i], field[i]);
 }
 
+/// Whether the record has a field of that name, which is read then.
+template <class Record>
+bool readNamed(std::string const& name, JsonCursor const& cursor, Record& record) {
+  bool isKnown = false;
+  visitFields(record, [&](char const* field, auto& value) {
+    if (name != field) return;
+    readField(cursor, value);
+    isKnown = true;
+  });
+  return isKnown;
+}
+
 template <class Record>
 void readFields(JsonCursor const& cursor, Record& record) {
   for (auto const& [name, member] : cursor.members()) {
-    bool isKnown = false;
-    visitFields(record, [&](char const* field, auto& value) {
-      if (name != field) return;
-      readField(member, value);
-      isKnown = true;
-    });
-    if (!isKnown) member.refuse("no such field");
+    if (!readNamed(name, member, record)) member.refuse("no such field");
   }
 }
 

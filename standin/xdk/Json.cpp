@@ -82,7 +82,7 @@ class TreeBuilder : public nlohmann::json_sax<nlohmann::json> {
       Json const& outer = *open_[depth];
       bool isList = outer.kind == Json::Kind::list;
       path = pathTo(path,
-                    isList ? std::to_string(outer.members.size() - 1) : outer.members.back().first);
+                    isList ? std::to_string(outer.members.size() - 1) : outer.members.back().name);
     }
     return pathTo(path, name);
   }
@@ -91,9 +91,9 @@ class TreeBuilder : public nlohmann::json_sax<nlohmann::json> {
     Json value{kind, std::move(text), {}};
     if (open_.empty()) return root_ = std::move(value);
     auto& members = open_.back()->members;
-    members.emplace_back(std::move(name_), std::move(value));
+    members.push_back({std::move(name_), std::move(value)});
     name_.clear();
-    return members.back().second;
+    return members.back().value;
   }
 
   bool leaf(Json::Kind kind, std::string text) {
@@ -118,7 +118,7 @@ class TreeBuilder : public nlohmann::json_sax<nlohmann::json> {
 
   std::string_view text_;
   std::string const& file_;
-  Json root_;
+  Json root_{};
   std::vector<Json*> open_;
   std::vector<std::set<std::string>> names_;  // keys of what is open
   std::string name_;

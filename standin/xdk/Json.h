@@ -7,7 +7,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace xdksim {
@@ -18,15 +17,23 @@ class ProfileFault : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+struct JsonMember;
+
 struct Json {
   enum class Kind : U8 { null, boolean, number, string, list, object };
 
-  Kind kind = Kind::null;
-  std::string text;  ///< of a string its characters, of a number or boolean as it was written
-  std::vector<std::pair<std::string, Json>> members;  ///< of a list with empty names
+  Kind kind;
+  std::string text;                 ///< of a string its characters, of others as it was written
+  std::vector<JsonMember> members;  ///< of a list without names
 
   /// "a list", "true", "12", "\"abc\"": the value as a complaint names it.
   std::string shown() const;
+};
+
+/// A value within a list or an object.
+struct JsonMember {
+  std::string name;
+  Json value;
 };
 
 /// Reads `text`, which came from `file`.  Throws `ProfileFault`: "file:line:column: ..." where it

@@ -11,10 +11,13 @@ namespace kestrel {
 namespace {
 
 XpXdk::XpDeviceId deviceIdOf(xdksim::Profile const& profile, std::string const& origin) {
+  using Id = XpXdk::XpDeviceId;
   try {
-    return XpXdk::XpDeviceId(profile.deviceId);
-  } catch (Mox::RangeException const& fault) {
-    throw UsageFault(origin + ": /deviceId: " + fault.what());
+    return Id(profile.deviceId);
+  } catch (Mox::RangeException const&) {
+    throw UsageFault(origin + ": /deviceId: " + std::to_string(profile.deviceId) +
+                     " is no device number, " + std::to_string(Id::min) + " to " +
+                     std::to_string(Id::null));
   }
 }
 

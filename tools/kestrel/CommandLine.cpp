@@ -7,12 +7,12 @@
 #include "tools/kestrel/UsageFault.h"
 
 #include <CLI/CLI.hpp>
-#include <cctype>
 #include <charconv>
 #include <cstring>
 #include <iostream>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 namespace kestrel {
 
@@ -23,16 +23,19 @@ constexpr char const* description =
     "what the library says of it.  Results go to standard output, complaints to standard error.";
 
 constexpr char const* footer =
-    "Exit status: 0 success, 1 the output can't be written, 2 wrong usage or a bad profile.  "
-    "Where\n"
-    "the library ends the process by assertion, the tool is aborted.";
+    "Exit status: 0 success, 1 the output can't be written, 2 wrong usage or a bad profile.\n"
+    "Where the library ends the process by assertion, the tool is aborted.";
 
-/// The empty string for a number that fits into 32 bits; else what is wrong.
-std::string tableIdFault(std::string const& text) {
+std::string quoted(std::string const& text) { return '"' + text + '"'; }
+
+/// A number is decimal here, also behind a zero.
+U32 tableIdOf(std::string const& text) {
   U32 id = 0;
   char const* const end = text.data() + text.size();
   auto const read = std::from_chars(text.data(), end, id);
-  return read.ec == std::errc() && read.ptr == end ? "" : "\"" + text + "\" is no table id";
+  if (read.ec != std::errc() || read.ptr != end)
+    throw CLI::ValidationError("--table", quoted(text) + " is no table id");
+  return id;
 }
 
 CLI::App& addCommand(CLI::App& app, char const* name, char const* help, Request& request,
@@ -56,9 +59,11 @@ void addReports(CLI::App& app, Request& request) {
   report.require_subcommand(1);
   CLI::App& summary = addCommand(report, "summary", "Rows that each table takes, by kind of memory",
                                  request, reportSummary);
-  summary.add_option("--table", request.tableId, "The line of this table alone")
-      ->type_name("ID")
-      ->check(CLI::Validator(tableIdFault, ""));
+  summary
+      .add_option_function<std::string>(
+          "--table", [&request](std::string const& text) { request.tableId = tableIdOf(text); },
+          "The line of this table alone")
+      ->type_name("ID");
   addProfile(summary, request);
   addProfile(addCommand(report, "tables", "Id and name of each table", request, reportTables),
              request);
@@ -93,10 +98,19 @@ void complain(std::string const& complaint) {
   std::cerr << "kestrel: error: " << xdksim::printable(complaint, 2000) << '\n';
 }
 
+/// What is wrong, where the parser's own words aren't the best.
+std::string faultOf(CLI::App const& app, CLI::ParseError const& fault) {
+  std::string const command = quoted(fullName(namedCommand(app)));
+  std::vector<std::string> const unknown = app.remaining(true);
+  bool const needsCommand = dynamic_cast<CLI::RequiredError const*>(&fault) != nullptr;
+  if (needsCommand && unknown.empty()) return command + " needs a command";
+  if (needsCommand) return command + " has no command " + quoted(unknown.front());
+  if (!unknown.empty()) return command + " takes no " + quoted(unknown.front());
+  return fault.what();
+}
+
 ExitStatus refused(CLI::App const& app, CLI::ParseError const& fault) {
-  std::string what = fault.what();
-  what[0] = static_cast<char>(std::tolower(what[0]));
-  complain(what + " (see \"" + fullName(namedCommand(app)) + " --help\")");
+  complain(faultOf(app, fault) + " (see " + quoted(fullName(namedCommand(app)) + " --help") + ")");
   return wrongUsage;
 }
 

@@ -18,17 +18,19 @@ namespace kestrel {
 
 namespace {
 
-xdksim::Profile readProfile(std::string const& file) {
-  if (file.empty()) return xdksim::defaultProfile();
+xdksim::Profile profileOf(Request const& request) {
+  if (!request.profile) return xdksim::defaultProfile();
   try {
-    return xdksim::readProfileFile(file);
+    return xdksim::readProfileFile(*request.profile);
   } catch (xdksim::ProfileFault const& fault) {
     throw UsageFault(fault.what());
   }
 }
 
 /// A chip of the asked profile, not yet up.
-Chip chipFor(Request const& request) { return Chip(readProfile(request.profile), request.profile); }
+Chip chipFor(Request const& request) {
+  return Chip(profileOf(request), request.profile.value_or("the built-in profile"));
+}
 
 bool wantsColour() {
   char const* const terminal = std::getenv("TERM");
@@ -45,10 +47,10 @@ void demo(Request const&, std::ostream& out) {
 void reportSummary(Request const& request, std::ostream& out) {
   Chip chip = chipFor(request);
   chip.bringUp();
-  if (request.tableId.empty())
-    printSummary(chip, out);
+  if (request.tableId)
+    printTableSummary(chip, *request.tableId, out);
   else
-    printTableSummary(chip, static_cast<U32>(std::stoul(request.tableId)), out);
+    printSummary(chip, out);
 }
 
 void reportTables(Request const& request, std::ostream& out) {

@@ -1,7 +1,10 @@
 // The commands of the tool.
 #pragma once
 
+#include "Mox/Integers.h"
+
 #include <iosfwd>
+#include <optional>
 #include <string>
 
 namespace kestrel {
@@ -14,8 +17,8 @@ using Command = void (*)(Request const&, std::ostream&);
 
 struct Request {
   Command command = nullptr;
-  std::string profile;  ///< a file; empty for the built-in profile
-  std::string tableId;  ///< decimal; empty for all tables
+  std::optional<std::string> profile;  ///< a file; none for the built-in profile
+  std::optional<U32> tableId;          ///< none for all tables
   bool json = false;
 };
 

@@ -1,0 +1,95 @@
+// What the watch on a chip's status writes.
+#include "tools/kestrel/BringUp.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace kestrel {
+
+namespace {
+
+/// A status that is watched; `said` are the lines so far.
+struct Watched {
+  Kestrel::ChipStatus::Ptr status = Kestrel::chipStatusFactory("chip");
+  std::string said;
+  Mox::Ptr<EntryWatch> watch;
+
+  void start() {
+    watch = EntryWatch::start(status,
+                              [this](std::string_view line) { said.append(line).append("; "); });
+  }
+};
+
+TEST(EntryWatchTest, TableThatAppears) {
+  Watched chip;
+  chip.start();
+  chip.status->tableContextEntryIs(31, "INGRESS_BD");
+  EXPECT_EQ(chip.said, "entry 31 INGRESS_BD; ");
+}
+
+TEST(EntryWatchTest, TableThatGoes) {
+  Watched chip;
+  chip.start();
+  chip.status->tableContextEntryIs(31, "INGRESS_BD");
+  chip.status->tableContextEntryDel(31);
+  EXPECT_EQ(chip.said, "entry 31 INGRESS_BD; gone 31; ");
+}
+
+TEST(EntryWatchTest, TableThatIsAnnouncedAgainIsNotNew) {
+  Watched chip;
+  chip.start();
+  chip.status->tableContextEntryIs(31, "INGRESS_BD");
+  chip.status->tableContextEntryNotify(31);
+  chip.status->tableContextEntryIs(31, "OTHER");
+  EXPECT_EQ(chip.said, "entry 31 INGRESS_BD; ");
+}
+
+TEST(EntryWatchTest, TableThatNeverWasCannotGo) {
+  Watched chip;
+  chip.start();
+  chip.status->tableContextEntryNotify(31);
+  EXPECT_EQ(chip.said, "");
+}
+
+TEST(EntryWatchTest, TableThatWasThereBeforeIsNotNewButGoes) {
+  Watched chip;
+  chip.status->tableContextEntryIs(31, "INGRESS_BD");
+  chip.start();
+  chip.status->tableContextEntryNotify(31);
+  chip.status->tableContextEntryDelAll();
+  EXPECT_EQ(chip.said, "gone 31; ");
+}
+
+TEST(EntryWatchTest, TableThatComesBackIsNew) {
+  Watched chip;
+  chip.start();
+  chip.status->tableContextEntryIs(31, "INGRESS_BD");
+  chip.status->tableContextEntryDel(31);
+  chip.status->tableContextEntryIs(31, "OTHER");
+  EXPECT_EQ(chip.said, "entry 31 INGRESS_BD; gone 31; entry 31 OTHER; ");
+}
+
+TEST(PrintBringUpTest, SecondBringUpForgetsTheTablesFirst) {
+  xdksim::Profile profile;
+  profile.tables[52] = xdksim::tableOf(std::vector<xpNhTableContext>(1), 1);
+  std::get<std::vector<xpNhTableContext>>(profile.tables[52].contexts)[0].first = 0;
+  Chip chip(profile, "test");
+  std::ostringstream first;
+  printBringUp(chip, first);
+  std::ostringstream second;
+  printBringUp(chip, second);
+  EXPECT_EQ(second.str(), "gone 52\n" + first.str());
+}
+
+TEST(ChipTest, EndOfTheChipSaysNothing) {
+  std::ostringstream out;
+  {
+    Chip chip(xdksim::defaultProfile(), "test");
+    printBringUp(chip, out);
+  }
+  EXPECT_EQ(out.str().find("gone"), std::string::npos);
+}
+
+}  // namespace
+
+}  // namespace kestrel
