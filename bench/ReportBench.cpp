@@ -2,11 +2,12 @@
 //
 // Run:   cmake --preset release -DKESTREL_BENCH=ON && cmake --build --preset release
 //        build/release/bin/bench_ReportBench
-// Read:  BringUp is a whole bring-up with the SDK's call log off, from an empty chip status to all
-//        tables published; it is to stay below 2 ms.  TakeDown of the former tables belongs to it,
-//        as in an agent that restarts.  Summary is the report's text; it is to stay below 100 us.
-//        SummaryFloor is what formatting that many lines costs alone: the rest of Summary is
-//        decoding and walking.  Only a Release build counts.
+// Read:  BringUp is a whole bring-up with the SDK's call log off, the removal of the former tables
+//        included, as in an agent that takes its tables up anew; it is to stay below 2 ms.  Summary
+//        is the report's text; it is to stay below 100 us.  SummaryFloor is what formatting that
+//        many lines costs alone: the rest of Summary is walking and decoding.  SramMap is the
+//        grouping of tables on blocks, which reports of the SRAM begin with.  Only a Release build
+//        counts.
 #include "Kestrel/ChipStatus.h"
 #include "XpLib/Config/LpmTreadCfg.h"
 #include "XpLib/XpTableCliHelper.h"

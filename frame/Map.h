@@ -63,11 +63,17 @@ typename A::Value mapDelAt(typename A::Owner& owner, Iterator const& at) {
   return node && node.ptr() == at.node() ? mapDelNode<A>(owner, node) : typename A::Value();
 }
 
-/// Removes one after the other, each with its own step and its own notification.
+/// Removes one after the other, each with its own step and its own notification.  A plain object
+/// has neither, and loses all at once: a walk couldn't go on from a removed key where keys aren't
+/// ordered among each other.
 template <class A>
 void mapDelAll(typename A::Owner& owner) {
-  using Map = std::remove_reference_t<decltype(A::map(owner))>;
-  for (typename Map::Iterator at(A::map(owner)); at; ++at) mapDelAt<A>(owner, at);
+  auto& map = A::map(owner);
+  using Map = std::remove_reference_t<decltype(map)>;
+  if constexpr (EntityAttribute<A>)
+    for (typename Map::Iterator at(map); at; ++at) mapDelAt<A>(owner, at);
+  else
+    map.deleteAll();
 }
 
 }  // namespace frame

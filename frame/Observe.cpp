@@ -8,11 +8,21 @@ namespace {
 /// Counted objects stand in lists of their own class; the list's link is theirs to change.
 Notifiee* linked(Notifiee const& member) { return const_cast<Notifiee*>(&member); }
 
+bool isAdapter(Notifiee const* reactor) {
+  return dynamic_cast<Mox::Entity::MoxNboAttrLogSa const*>(reactor) != nullptr;
+}
+
+/// A notifiee that registers in its own constructor is held by nobody yet: a reference taken and
+/// dropped would be its last.
+bool isForLog(Notifiee const& member) {
+  if (member.references() == 0) return isAdapter(member.moxRawReactor());
+  return isAdapter(member.moxReactor().ptr());
+}
+
 }  // namespace
 
 void link(Mox::BaseCollection& list, Notifiee const& member) {
-  auto const reactor = member.moxReactor();
-  if (dynamic_cast<Mox::Entity::MoxNboAttrLogSa const*>(reactor.ptr()))
+  if (isForLog(member))
     list.linkHead(linked(member));
   else
     list.linkTail(linked(member));

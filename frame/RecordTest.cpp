@@ -147,6 +147,14 @@ TEST(EnumerationTest, TextIsQuotedAndParsesBack) {
   EXPECT_EQ(out.str(), "tense");
 }
 
+TEST(EnumerationTest, ReaderStoresWhereItWasAskedTo) {
+  everyShape::Mood mood = everyShape::calm;
+  Mox::String8 const text("'tense'");
+  auto at = text.begin();
+  EXPECT_EQ(sequenceToValue(at, text.end(), &mood), everyShape::tense);
+  EXPECT_EQ(mood, everyShape::tense);
+}
+
 TEST(EnumerationTest, FallbackTextDoesntParseBack) {
   everyShape::Mood mood = everyShape::calm;
   EXPECT_THROW(Mox::strepToValue<everyShape::Mood>("'Mood(7)'", &mood), Mox::RangeException);

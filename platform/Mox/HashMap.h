@@ -124,6 +124,9 @@ class HashMap : public HashMapGeneric {
     return Ptr<Node>::adopt(typed(takeFrom(*place, linkOf(*place)).release()));
   }
 
+  /// Removes all nodes.
+  void deleteAll() { emptyAllBuckets(); }
+
   /// A change-proof walk.
   template <class Element>
   class IteratorOf : public HashMapIteratorGeneric {

@@ -93,6 +93,18 @@ TEST(TableSramMemoryMapTest, StoredGroupIsACopy) {
   EXPECT_TRUE(map->tableId({0, 0, 0}).tableId(2));
 }
 
+// No group is less than another: those of one bucket have no order to go on by.
+TEST(TableSramMemoryMapTest, RemovingAllLegendsLeavesNone) {
+  auto const map = tableSramMemoryMapFactory();
+  for (U32 table = 0; table < 8; ++table) {
+    SharedTableGroup group;
+    group.tableIdIs(table, true);
+    map->legendIs(group, "x");
+  }
+  map->legendDelAll();
+  EXPECT_EQ(map->legendCount(), 0u);
+}
+
 TEST(TableTcamMemoryMapTest, TellsTheTableOfAChunk) {
   auto const map = tableTcamMemoryMapFactory();
   map->tableIdIs({4, 5}, 42);

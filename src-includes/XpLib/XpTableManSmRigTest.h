@@ -17,7 +17,7 @@ namespace Kestrel::xpTableManSm {
 
 using Lines = std::vector<std::string>;
 
-/// Contexts of a table that is in use, one a copy; `numOf...` tells them apart from 1 on.
+/// Contexts of a table that is in use, one a copy.
 template <class Context>
 std::vector<Context> contexts(U32 copies) {
   std::vector<Context> result(copies);

@@ -4,17 +4,50 @@
 
 namespace Mox {
 
-template <> MoxType* Builtin<void>::_fwkType() { return MoxType::opaque("void"); }
-template <> MoxType* Builtin<void*>::_fwkType() { return MoxType::opaque("VoidPtr"); }
-template <> MoxType* Builtin<bool>::_fwkType() { return MoxType::opaque("bool"); }
-template <> MoxType* Builtin<U8>::_fwkType() { return MoxType::opaque("U8"); }
-template <> MoxType* Builtin<S8>::_fwkType() { return MoxType::opaque("S8"); }
-template <> MoxType* Builtin<U16>::_fwkType() { return MoxType::opaque("U16"); }
-template <> MoxType* Builtin<U32>::_fwkType() { return MoxType::opaque("U32"); }
-template <> MoxType* Builtin<S32>::_fwkType() { return MoxType::opaque("S32"); }
-template <> MoxType* Builtin<U64>::_fwkType() { return MoxType::opaque("U64"); }
-template <> MoxType* Builtin<double>::_fwkType() { return MoxType::opaque("double"); }
-template <> MoxType* Builtin<String8>::_fwkType() { return MoxType::opaque("Mox::String"); }
+template <>
+MoxType* Builtin<void>::_fwkType() {
+  return MoxType::opaque("void");
+}
+template <>
+MoxType* Builtin<void*>::_fwkType() {
+  return MoxType::opaque("VoidPtr");
+}
+template <>
+MoxType* Builtin<bool>::_fwkType() {
+  return MoxType::opaque("bool");
+}
+template <>
+MoxType* Builtin<U8>::_fwkType() {
+  return MoxType::opaque("U8");
+}
+template <>
+MoxType* Builtin<S8>::_fwkType() {
+  return MoxType::opaque("S8");
+}
+template <>
+MoxType* Builtin<U16>::_fwkType() {
+  return MoxType::opaque("U16");
+}
+template <>
+MoxType* Builtin<U32>::_fwkType() {
+  return MoxType::opaque("U32");
+}
+template <>
+MoxType* Builtin<S32>::_fwkType() {
+  return MoxType::opaque("S32");
+}
+template <>
+MoxType* Builtin<U64>::_fwkType() {
+  return MoxType::opaque("U64");
+}
+template <>
+MoxType* Builtin<double>::_fwkType() {
+  return MoxType::opaque("double");
+}
+template <>
+MoxType* Builtin<String8>::_fwkType() {
+  return MoxType::opaque("Mox::String");
+}
 
 MoxType* boundedType(char const* name, MoxType* storage, std::size_t size) {
   MoxType* const type = MoxType::opaque(name);

@@ -74,8 +74,8 @@ Ptr<Entity::MoxNboAttrLogSa const> Entity::moxNboAttrLogSaForMsgChannel(
   return nullptr;
 }
 
-Ptr<Entity::MoxNboAttrLogSa> Entity::moxNboAttrLogSaIs(Mox_BitSet, U32,
-                                                       Ptr<NboAttrLog::Out> const&, PtrInterface*) {
+Ptr<Entity::MoxNboAttrLogSa> Entity::moxNboAttrLogSaIs(Mox_BitSet, U32, Ptr<NboAttrLog::Out> const&,
+                                                       PtrInterface*) {
   throwRangeException("null ValidPtr");
 }
 

@@ -1,9 +1,8 @@
 // Entities: their members at the start, their place in a tree.
 #include "Mox/Entity.h"
+#include "Mox/Exception.h"
 
 #include <gtest/gtest.h>
-
-#include "Mox/Exception.h"
 
 namespace Mox {
 namespace {

@@ -8,6 +8,7 @@
 namespace Mox {
 namespace {
 
+// With a sanitizer at work no block comes back at once: it must see a use after free.
 #if defined(__SANITIZE_ADDRESS__)
 constexpr bool keeps = false;
 #elif defined(__has_feature)
@@ -26,20 +27,18 @@ class ThreadSafe {
 };
 
 TEST(FreeListTest, BlockComesBack) {
-  if (!keeps) GTEST_SKIP() << "the sanitizer sees each block";
   void* const block = FreeList::take(size);
   FreeList::give(block, size);
   void* const again = FreeList::take(size);
-  EXPECT_EQ(again, block);
+  EXPECT_EQ(again == block, keeps);
   FreeList::give(again, size);
 }
 
 TEST(FreeListTest, SizesOfAClassShareTheirBlocks) {
-  if (!keeps) GTEST_SKIP() << "the sanitizer sees each block";
   void* const block = FreeList::take(size - 7);
   FreeList::give(block, size - 7);
   void* const again = FreeList::take(size);
-  EXPECT_EQ(again, block);
+  EXPECT_EQ(again == block, keeps);
   FreeList::give(again, size);
 }
 
@@ -81,7 +80,6 @@ TEST(FreeListTest, BlocksMayCrossTheSwitch) {
 }
 
 TEST(FreeListTest, CountedObjectComesFromItsList) {
-  if (!keeps) GTEST_SKIP() << "the sanitizer sees each block";
   using Node = MapNode<U32, U32>;
   PtrInterface* first = nullptr;
   {
@@ -89,7 +87,7 @@ TEST(FreeListTest, CountedObjectComesFromItsList) {
     first = node.ptr();
   }
   Ptr<Node> const node = new Node(2);
-  EXPECT_EQ(node.ptr(), first);
+  EXPECT_EQ(node.ptr() == first, keeps);
 }
 
 }  // namespace

@@ -106,10 +106,10 @@ Ptr<IntrospectionReactor> IntrospectionReactor::global() {
 void IntrospectionReactor::handleNameSpace(char const* name) { nameSpace_ = name; }
 
 void IntrospectionReactor::handleType(Ptr<MoxType const> const& type, Ptr<MoxType const> const&) {
-  // Only the reactor writes to a descriptor that it was handed for reading: its place in a namespace.
+  // Only the reactor writes to a descriptor that it was handed for reading: its place in a
+  // namespace.
   auto* const opened = const_cast<MoxType*>(type.ptr());
-  if (!nameSpace_.empty())
-    opened->fullTypeNameIs(nameSpace_ + "::" + opened->name().stringValue());
+  if (!nameSpace_.empty()) opened->fullTypeNameIs(nameSpace_ + "::" + opened->name().stringValue());
   types_.push_back(opened);
   ++depth_;
 }

@@ -1,9 +1,9 @@
 // Observers: what they hold, and what they do unless a class says otherwise.
 #include "Mox/Notifiee.h"
 
-#include <exception>
-
 #include "Mox/TraceAt.h"
+
+#include <exception>
 
 namespace Mox {
 

@@ -41,7 +41,8 @@ void PtrInterface::handleZeroRef() const {
   referenceWord_.inc();
   self->zeroReferencesIs(true);
   if (!referenceWord_.dec()) return;
-  // What the destructor touches may take references to this object again; they must not end it twice.
+  // What the destructor touches may take references to this object again; they must not end it
+  // twice.
   referenceWord_.flagIs(ReferenceWord::keptAlive, true);
   delete self;
 }

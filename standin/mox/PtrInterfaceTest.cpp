@@ -2,7 +2,6 @@
 #include "Mox/PtrInterface.h"
 
 #include <gtest/gtest.h>
-
 #include <thread>
 
 namespace Mox {

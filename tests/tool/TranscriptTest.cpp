@@ -18,7 +18,11 @@ namespace tool {
 
 namespace {
 
-constexpr char const* root = KESTREL_SOURCE_DIR "/tests/tool/";
+/// A file or folder beside this one.
+std::string under(std::string const& path) {
+  std::string whole = KESTREL_SOURCE_DIR "/tests/tool/";
+  return whole.append(path);
+}
 constexpr std::string_view prompt = "$ kestrel ";
 
 using Lines = std::vector<std::string>;
@@ -61,7 +65,7 @@ void append(std::string& session, char const* mark, std::string const& text) {
 std::string sessionOf(Lines const& commands) {
   std::string session;
   for (std::string const& command : commands) {
-    Outcome const outcome = kestrel(command, std::string(root) + "profiles");
+    Outcome const outcome = kestrel(command, under("profiles"));
     session += (session.empty() ? "" : "\n") + std::string(prompt) + command + '\n';
     append(session, "", outcome.out);
     append(session, "! ", outcome.err);
@@ -79,7 +83,7 @@ Lines commandsIn(std::string const& session) {
 
 Lines transcripts() {
   Lines names;
-  for (auto const& file : std::filesystem::directory_iterator(std::string(root) + "transcripts"))
+  for (auto const& file : std::filesystem::directory_iterator(under("transcripts")))
     names.push_back(file.path().stem().string());
   std::ranges::sort(names);
   return names;
@@ -88,7 +92,7 @@ Lines transcripts() {
 class TranscriptTest : public testing::TestWithParam<std::string> {};
 
 TEST_P(TranscriptTest, SaysTheSameAgain) {
-  std::string const path = std::string(root) + "transcripts/" + GetParam() + ".txt";
+  std::string const path = under("transcripts/" + GetParam() + ".txt");
   std::string const expected = read(path);
   Lines const commands = commandsIn(expected);
   ASSERT_FALSE(commands.empty()) << path;

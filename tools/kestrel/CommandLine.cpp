@@ -23,8 +23,8 @@ constexpr char const* description =
     "what the library says of it.  Results go to standard output, complaints to standard error.";
 
 constexpr char const* footer =
-    "Exit status: 0 success, 1 the output can't be written, 2 wrong usage or a bad profile.\n"
-    "Where the library ends the process by assertion, the tool is aborted.";
+    "Exit status: 0 success, 1 failure, such as output that can't be written, 2 wrong usage or a\n"
+    "bad profile.  Where the library ends the process by assertion, the tool is aborted.";
 
 std::string quoted(std::string const& text) { return '"' + text + '"'; }
 
@@ -125,6 +125,9 @@ ExitStatus perform(CLI::App& app, Request const& request, int argc, char const* 
   } catch (UsageFault const& fault) {
     complain(fault.what());
     return wrongUsage;
+  } catch (std::exception const& fault) {
+    complain(fault.what());
+    return failure;
   }
   return success;
 }
@@ -144,7 +147,7 @@ int run(int argc, char const* const* argv) {
   out.flush();
   if (output.error() == 0) return status;
   complain(std::string("standard output can't be written: ") + std::strerror(output.error()));
-  return outputFailed;
+  return failure;
 }
 
 }  // namespace kestrel

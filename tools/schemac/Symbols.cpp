@@ -66,7 +66,7 @@ TypeUse const* Symbols::attributeType(Type const& type, std::string const& name)
 std::string outputPath(std::string const& space, std::string const& name) {
   std::string path = qualified(space, name);
   for (std::size_t colon = path.find("::"); colon != std::string::npos; colon = path.find("::"))
-    path.replace(colon, 2, "/");
+    path.replace(colon, 2, 1, '/');
   return path;
 }
 

@@ -43,8 +43,8 @@ Mood MoodInstance(Mox::String8 const& name) {
 }
 Mox::String8 valueToStrep(Mood const& value) { return Mox::valueToStrep(stringValue(value)); }
 Mood sequenceToValue(Mox::String8::IteratorConst& at, Mox::String8::IteratorConst const& end,
-    Mood*) {
-  return static_cast<Mood>(frame::enumParse(table, at, end));
+    Mood* to) {
+  return Mox::storedValue(static_cast<Mood>(frame::enumParse(table, at, end)), to);
 }
 std::ostream& operator<<(std::ostream& out, Mood const& value) { return out << stringValue(value); }
 

@@ -20,9 +20,9 @@ Mood MoodInstance(U32 number);
 Mood MoodInstance(Mox::String8 const& name);
 /// The name in single quotes.
 Mox::String8 valueToStrep(Mood const& value);
-/// Reads one quoted name at `at` and advances.
+/// Reads one quoted name at `at`, advances, and stores it through `to` too unless that is null.
 Mood sequenceToValue(Mox::String8::IteratorConst& at, Mox::String8::IteratorConst const& end,
-    Mood*);
+    Mood* to);
 std::ostream& operator<<(std::ostream& out, Mood const& value);
 Mox::MoxType* _fwkType_Mood();
 
