@@ -19,7 +19,8 @@ concept EntityAttribute = std::derived_from<typename A::Owner, Mox::Entity>;
 template <EntityAttribute A>
 void notify(typename A::Owner& owner) {
   auto const& list = owner.moxNotifiees();
-  if (list.empty()) return;
+  if (list.empty()) [[likely]]
+    return;
   deliver<>(list, A::id, A::level, static_cast<Hook<>>(A::hook));
 }
 
@@ -27,7 +28,8 @@ void notify(typename A::Owner& owner) {
 template <EntityAttribute A>
 void notifyKey(typename A::Owner& owner, typename A::Key const& key) {
   auto const& list = owner.moxNotifiees();
-  if (list.empty()) return;
+  if (list.empty()) [[likely]]
+    return;
   using Key = typename A::Key;
   deliver<Key>(list, A::id, A::level, static_cast<Hook<Key>>(A::hook), key);
 }

@@ -5,33 +5,38 @@
 #include "Mox/ListRaw.h"
 
 #include <array>
-#include <vector>
 
 namespace frame {
 
 using Notifiee = Mox::PtrInterface::NotifieeConst;
 
-/// The members of a notifiee list as they stood, each held by a reference.  Up to eight need no
-/// allocation.
+/// The members of a notifiee list as they stood, each held by a reference.
 class Snapshot {
  public:
-  explicit Snapshot(Mox::BaseCollection const& list) : size_(list.count()) {
-    if (size_ > inPlace_.size()) [[unlikely]]
-      makeRoom();
-    Notifiee** slot = members_;
+  /// Where the caller lets the members stand; more of them than it holds need an allocation.
+  /// An object of its own, so that the snapshot's positions can be kept in registers.
+  using Room = std::array<Notifiee*, 16>;
+
+  Snapshot(Mox::BaseCollection const& list, Room& room)
+      : members_(room.data()), end_(members_), overflows_(list.count() > room.size()) {
+    if (overflows_) [[unlikely]]
+      end_ = members_ = new Notifiee*[list.count()];
+    at_ = members_;
     for (Notifiee* member = list.head(); member; member = Mox::BaseCollection::next(member)) {
       member->referencesInc();
-      *slot++ = member;
+      *end_++ = member;
     }
   }
   ~Snapshot() {
-    while (index_ < size_) release();
+    while (!atEnd()) release();
+    if (overflows_) [[unlikely]]
+      delete[] members_;
   }
   Snapshot(Snapshot const&) = delete;
   Snapshot& operator=(Snapshot const&) = delete;
 
-  bool atEnd() const noexcept { return index_ == size_; }
-  Notifiee& current() const noexcept { return *members_[index_]; }
+  bool atEnd() const noexcept { return at_ == end_; }
+  Notifiee& current() const noexcept { return **at_; }
   /// Drops the current member and steps to the next one that somebody beside this snapshot holds.
   void advance() {
     release();
@@ -39,14 +44,12 @@ class Snapshot {
   }
 
  private:
-  void makeRoom();
-  void release() { members_[index_++]->referencesDec(); }
+  void release() { (*at_++)->referencesDec(); }
 
-  U32 size_;
-  U32 index_ = 0;
-  std::array<Notifiee*, 8> inPlace_;
-  Notifiee** members_ = inPlace_.data();
-  std::vector<Notifiee*> overflow_;
+  Notifiee** members_;
+  Notifiee** at_;
+  Notifiee** end_;
+  bool overflows_;
 };
 
 /// Tells `member` that its hook for attribute `id` raised the exception that is in flight.
@@ -66,15 +69,19 @@ template <class... Key>
 [[gnu::noinline]] void deliver(Mox::BaseCollection const& list, Mox::AttributeId id,
                                Mox::NotifieeLevel const* level, Hook<Key...> hook,
                                Key const&... key) {
-  for (Snapshot members(list); !members.atEnd(); members.advance()) {
+  Snapshot::Room room;
+  Snapshot members(list, room);
+  Mox::Expect const nothing(0);
+  for (nothing.close(); !members.atEnd(); members.advance()) {
     Notifiee& member = members.current();
     if (level && !member.moxIsOf(level)) continue;
-    Mox::Expect const nothing(0);
+    nothing.open();
     try {
       (member.*hook)(key...);
     } catch (...) {
       hookFailed(member, id);
     }
+    nothing.close();
   }
 }
 

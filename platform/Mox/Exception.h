@@ -81,10 +81,15 @@ class AttrLogEntityException : public Exception {
 /// of a notification hook, so that what the mutator's caller expects isn't taken to be the hook's.
 class Expect {
  public:
-  explicit Expect(Exception::Id id) noexcept : id_(id), outer_(innermost_) { innermost_ = this; }
-  ~Expect() { innermost_ = outer_; }
+  explicit Expect(Exception::Id id) noexcept : id_(id), outer_(innermost_) { open(); }
+  ~Expect() { close(); }
   Expect(Expect const&) = delete;
   Expect& operator=(Expect const&) = delete;
+
+  /// Ends the scope early, and opens it again where it stood: for a loop that leaves and enters it
+  /// often.
+  void close() const noexcept { innermost_ = outer_; }
+  void open() const noexcept { innermost_ = this; }
 
   /// The id of the innermost open scope of this thread; 0 where there is none.
   static Exception::Id innermost() noexcept { return innermost_ ? innermost_->id_ : 0; }
@@ -94,9 +99,9 @@ class Expect {
 
  private:
   Exception::Id id_;
-  Expect* outer_;
+  Expect const* outer_;
 
-  [[gnu::tls_model("initial-exec")]] static thread_local constinit Expect* innermost_;
+  [[gnu::tls_model("initial-exec")]] static thread_local constinit Expect const* innermost_;
 };
 
 }  // namespace Mox

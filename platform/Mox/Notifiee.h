@@ -76,9 +76,7 @@ class PtrInterface::NotifieeConst : public PtrInterface {
 
   /// True when this observer is of `level` or derives from it.
   bool moxIsOf(NotifieeLevel const* level) const noexcept {
-    for (auto const* mine = level_; mine; mine = mine->base)
-      if (mine == level) return true;
-    return false;
+    return level_ == level || derivesFrom(level);
   }
 
   /// For `isRegisteredNotifieeIs` of the classes that know a list: the flag alone.
@@ -89,6 +87,9 @@ class PtrInterface::NotifieeConst : public PtrInterface {
 
  private:
   friend class BaseCollection;
+
+  // Out of line, for most observers are of the very level that is asked for.
+  bool derivesFrom(NotifieeLevel const* level) const noexcept;
 
   PtrInterface const* notifier_ = nullptr;
   mutable NotifieeConst* next_ = nullptr;

@@ -53,7 +53,7 @@ void throwInternalException(char const* message) { throw InternalException(messa
 void throwInternalException(String8 const& message) { throw InternalException(message); }
 void throwNameInUseException(String8 const& message) { throw NameInUseException(message); }
 
-thread_local constinit Expect* Expect::innermost_ = nullptr;
+thread_local constinit Expect const* Expect::innermost_ = nullptr;
 
 bool Expect::isExpected(Exception::IdBitArray const& ids) noexcept {
   for (Expect const* scope = innermost_; scope && scope->id_ != 0; scope = scope->outer_)

@@ -77,6 +77,12 @@ void PtrInterface::NotifieeConst::isWeakReferenceIs(bool weak) {
     notifier_->referencesInc();
 }
 
+bool PtrInterface::NotifieeConst::derivesFrom(NotifieeLevel const* level) const noexcept {
+  for (auto const* mine = level_; mine; mine = mine->base)
+    if (mine == level) return true;
+  return false;
+}
+
 void PtrInterface::NotifieeConst::handleNotification(ActivityConfig*) { onNotification(); }
 
 void PtrInterface::NotifieeConst::handleDefault(ActivityConfig*, AttributeId id, bool) {
