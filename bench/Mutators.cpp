@@ -3,8 +3,7 @@
 // Run:  build/release/bin/bench_Mutators --benchmark_repetitions=9
 //           --benchmark_report_aggregates_only=true --benchmark_enable_random_interleaving=true
 // Read: compare medians of one run, as ratios; machines are noisy. Each row of ours stands beside
-// its
-//       floor: `plain` (compare, store, version step behind a call into a shared library) for
+//       its floor: `plain` (compare, store, version step behind a call into a shared library) for
 //       changes that nobody watches, `loop` (a hand-written delivery with the same promises) for
 //       observers. Bounds: unwatched and equal at most 1.25 of plain; observers at most 1.5
 //       (one), 1.4 (three), 1.25 (ten) of loop, and ahead of each peer's signal. `derived` rows are

@@ -30,3 +30,9 @@ foreach(source IN LISTS sources)
   kestrel_program(bench_${stem} SOURCES "${source}"
     LINK benchmark::benchmark peers BenchFloor engines KestrelTypes)
 endforeach()
+
+# It loads the libraries itself, so it isn't linked with them.
+kestrel_program(bench_Load SOURCES "${PROJECT_SOURCE_DIR}/bench/load/Load.cpp"
+  LINK benchmark::benchmark ${CMAKE_DL_LIBS})
+add_dependencies(bench_Load KestrelTypes BenchFloor)
+set_target_properties(bench_Load PROPERTIES BUILD_RPATH "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")

@@ -1,13 +1,12 @@
 // Bring-up and reports of the default profile.
 //
-// Run:   cmake --preset release -DKESTREL_BENCH=ON && cmake --build --preset release
-//        build/release/bin/bench_ReportBench
-// Read:  BringUp is a whole bring-up with the SDK's call log off, the removal of the former tables
-//        included, as in an agent that takes its tables up anew; it is to stay below 2 ms.  Summary
-//        is the report's text; it is to stay below 100 us.  SummaryFloor is what formatting that
-//        many lines costs alone: the rest of Summary is walking and decoding.  SramMap is the
-//        grouping of tables on blocks, which reports of the SRAM begin with.  Only a Release build
-//        counts.
+// Run:  build/release/bin/bench_Reports --benchmark_repetitions=9
+//           --benchmark_report_aggregates_only=true
+// Read: medians. `bringUp` is a whole bring-up with the SDK's call log off, the removal of the
+//       former tables included, as in an agent that takes its tables up anew: below 2 ms. `summary`
+//       is the report's text: below 100 us. `summaryFloor` is what formatting that many lines costs
+//       alone: the rest of `summary` is walking and decoding. `sramMap` is the grouping of tables
+//       on blocks, which reports of the SRAM begin with.
 #include "Kestrel/ChipStatus.h"
 #include "XpLib/Config/LpmTreadCfg.h"
 #include "XpLib/XpTableCliHelper.h"
@@ -37,23 +36,23 @@ struct Chip {
   }
 };
 
-void BringUp(benchmark::State& state) {
+void bringUp(benchmark::State& state) {
   Chip chip;
   for (auto _ : state) benchmark::DoNotOptimize(chip.bringUp());
   state.counters["tables"] = chip.status->tableContextEntryCount();
 }
-BENCHMARK(BringUp)->Unit(benchmark::kMicrosecond);
+BENCHMARK(bringUp)->Unit(benchmark::kMicrosecond);
 
-void Summary(benchmark::State& state) {
+void summary(benchmark::State& state) {
   Chip chip;
   auto const tables = chip.bringUp();
   auto const reports = Kestrel::tableCliHelperFactory(chip.toolStatus());
   for (auto _ : state) benchmark::DoNotOptimize(reports->displayAllDynamicTablesSummary());
   state.counters["tables"] = chip.status->tableContextEntryCount();
 }
-BENCHMARK(Summary)->Unit(benchmark::kMicrosecond);
+BENCHMARK(summary)->Unit(benchmark::kMicrosecond);
 
-void SummaryFloor(benchmark::State& state) {
+void summaryFloor(benchmark::State& state) {
   Chip chip;
   auto const tables = chip.bringUp();
   U32 const numLines = chip.status->tableContextEntryCount();
@@ -65,9 +64,9 @@ void SummaryFloor(benchmark::State& state) {
   }
   state.counters["tables"] = numLines;
 }
-BENCHMARK(SummaryFloor)->Unit(benchmark::kMicrosecond);
+BENCHMARK(summaryFloor)->Unit(benchmark::kMicrosecond);
 
-void SramMap(benchmark::State& state) {
+void sramMap(benchmark::State& state) {
   Chip chip;
   auto const tables = chip.bringUp();
   auto const status = chip.toolStatus();
@@ -78,7 +77,7 @@ void SramMap(benchmark::State& state) {
     benchmark::DoNotOptimize(map->tableIdCount());
   }
 }
-BENCHMARK(SramMap)->Unit(benchmark::kMicrosecond);
+BENCHMARK(sramMap)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 
