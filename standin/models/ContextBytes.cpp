@@ -2,12 +2,9 @@
 #include "standin/models/ContextBytes.h"
 
 #include "Mox/Exception.h"
-#include "Xdk/LpmTableContext.h"
-#include "Xdk/TableContexts.h"
+#include "Xdk/ContextFields.h"
 
-#include <concepts>
 #include <string>
-#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -15,75 +12,16 @@ namespace XpXdk {
 
 namespace {
 
-template <class T, class R>
-concept RecordOf = std::same_as<std::remove_const_t<T>, R>;
-
-// The fields of each class in the order of the record, those that no reader knows included: a
-// stored context is the whole of the SDK's.
-
-template <RecordOf<xpTableContext> R>
-auto fields(R& r) {
-  return std::tie(r.first, r.tableType);
-}
-
-template <RecordOf<xpMatchTableContext> R>
-auto fields(R& r) {
-  return std::tie(r.numDb, r.keySize, r.valueSize, r.startDb, r.unlisted);
-}
-
-template <RecordOf<xpHashTableContext> R>
-auto fields(R& r) {
-  return std::tie(r.numOfEntries, r.keySize, r.valueSize, r.numOfWays, r.poolId, r.rowBlkStartId,
-                  r.shared);
-}
-
-template <RecordOf<xpDirectTableContext> R>
-auto fields(R& r) {
-  return std::tie(r.numOfEntries, r.entryWidth, r.poolId, r.rowBlkStartId, r.unlisted);
-}
-
-template <RecordOf<xpIsmeTableContext> R>
-auto fields(R& r) {
-  return std::tie(r.ismeNum, r.ldeNum, r.numOfEntries, r.tileStartId, r.unlisted);
-}
-
-template <RecordOf<xpNhTableContext> R>
-auto fields(R& r) {
-  return std::tie(r.poolBitmap, r.entryWidth, r.numEntries, r.rowBlkStartId, r.unlisted);
-}
-
-template <RecordOf<xpLpmPrefixTable> R>
-auto fields(R& r) {
-  return std::tie(r.valid, r.numOfEntries, r.entryWidth, r.tread, r.poolId, r.rowBlkStartId);
-}
-
-template <RecordOf<xpLpmNhiTable> R>
-auto fields(R& r) {
-  return std::tie(r.poolBitmap, r.numEntries, r.tileBitmap, r.pairPerEntry, r.nhWidth);
-}
-
-template <RecordOf<xpLpmTableContext> R>
-auto fields(R& r) {
-  return std::tie(r.searchDataWidth, r.vrfIdWidth, r.prefixTable, r.nhiTable, r.unlisted);
-}
-
-// Calls `visit` for each integer of `field`, through arrays and records.
-template <class Field, class Visit>
-void eachInteger(Field& field, Visit const& visit) {
-  if constexpr (std::is_array_v<Field>) {
-    for (auto& element : field) eachInteger(element, visit);
-  } else if constexpr (std::is_integral_v<Field>) {
-    visit(field);
-  } else {
-    std::apply([&visit](auto&... inner) { (eachInteger(inner, visit), ...); }, fields(field));
-  }
-}
-
-// The same for a whole context, its head first.
-template <class Head, class Context, class Visit>
-void eachInteger(Head& head, Context& context, Visit const& visit) {
-  eachInteger(head, visit);
-  eachInteger(context, visit);
+// Calls `visit` for each integer of a context, in the order of the record; those that no reader
+// knows are among them: a stored context is the whole of the SDK's.
+template <class Context, class Visit>
+void visitStored(Context& context, Visit const& visit) {
+  bool atFirst = true;
+  Xdk::visitFields(context, [&](char const*, auto& field) {
+    Xdk::visitIntegers(field, visit);
+    if (std::exchange(atFirst, false)) visit(context.tableType);
+  });
+  if constexpr (requires { context.unlisted; }) Xdk::visitIntegers(context.unlisted, visit);
 }
 
 void put(std::string& bytes, U64 value, std::size_t width) {
@@ -96,28 +34,12 @@ U64 take(unsigned char const*& at, std::size_t width) {
   return value;
 }
 
-// Bytes that the integers of a `Field` take.
-template <class Field>
-consteval std::size_t sizeOf();
-
-template <class... Inner>
-consteval std::size_t sizeOfAll(std::type_identity<std::tuple<Inner&...>>) {
-  return (sizeOf<Inner>() + ...);
-}
-
-template <class Field>
-consteval std::size_t sizeOf() {
-  if constexpr (std::is_array_v<Field>) {
-    return std::extent_v<Field> * sizeOf<std::remove_extent_t<Field>>();
-  } else if constexpr (std::is_integral_v<Field>) {
-    return sizeof(Field);
-  } else {
-    return sizeOfAll(std::type_identity<decltype(fields(std::declval<Field&>()))>());
-  }
-}
-
 template <class Context>
-constexpr std::size_t sizeOfContext = sizeOf<xpTableContext>() + sizeOf<Context>();
+std::size_t sizeOf(Context const& context) {
+  std::size_t size = 0;
+  visitStored(context, [&size](auto integer) { size += sizeof integer; });
+  return size;
+}
 
 template <class Context, class Given>
 Context& asClass(Given& context) {
@@ -130,8 +52,8 @@ template <class Context>
 Mox::String8 encode(xpTableContext const& head) {
   auto const& context = asClass<Context const>(head);
   std::string bytes;
-  bytes.reserve(sizeOfContext<Context>);
-  eachInteger(head, context,
+  bytes.reserve(sizeof context);
+  visitStored(context,
               [&bytes](auto integer) { put(bytes, static_cast<U64>(integer), sizeof integer); });
   return Mox::String8(bytes);
 }
@@ -139,11 +61,12 @@ Mox::String8 encode(xpTableContext const& head) {
 template <class Context>
 void decode(Mox::String8 const& bytes, xpTableContext& head) {
   auto& context = asClass<Context>(head);
-  if (bytes.size() != sizeOfContext<Context>)
+  std::size_t const size = sizeOf(context);
+  if (bytes.size() != size)
     Mox::throwRangeException(Mox::format("a context of table type %u takes %zu bytes, not %u",
-                                         Context::code, sizeOfContext<Context>, bytes.size()));
+                                         Context::code, size, bytes.size()));
   auto const* at = reinterpret_cast<unsigned char const*>(bytes.charPtr());
-  eachInteger(head, context, [&at](auto& integer) {
+  visitStored(context, [&at](auto& integer) {
     integer = static_cast<std::remove_reference_t<decltype(integer)>>(take(at, sizeof integer));
   });
 }

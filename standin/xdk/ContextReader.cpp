@@ -1,7 +1,7 @@
 // From JSON to the fields of the records.
 #include "standin/xdk/ContextReader.h"
 
-#include "standin/xdk/ContextFields.h"
+#include "Xdk/ContextFields.h"
 
 #include <algorithm>
 #include <type_traits>
@@ -31,7 +31,7 @@ void readField(JsonCursor const& cursor, Integer (&field)[room]) {
 template <class Record>
 bool readNamed(std::string const& name, JsonCursor const& cursor, Record& record) {
   bool isKnown = false;
-  visitFields(record, [&](char const* field, auto& value) {
+  Xdk::visitFields(record, [&](char const* field, auto& value) {
     if (name != field) return;
     readField(cursor, value);
     isKnown = true;

@@ -1,5 +1,5 @@
-// The table of the SDK's managers and of the operations that each has.  The stubs, the call log,
-// the statuses that profiles set and the documentation all come from it.
+// The table of the SDK's managers and of the operations that each has.  The call log, the statuses
+// that profiles set and the documentation all come from it; the entry points look themselves up.
 #pragma once
 
 #include "Mox/Integers.h"

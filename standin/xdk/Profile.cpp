@@ -1,7 +1,7 @@
 // Equality of profiles, field by field.
 #include "standin/xdk/Profile.h"
 
-#include "standin/xdk/ContextFields.h"
+#include "Xdk/ContextFields.h"
 
 #include <algorithm>
 
@@ -10,9 +10,10 @@ namespace {
 
 template <class Context>
 bool equalContexts(std::vector<Context> const& a, std::vector<Context> const& b) {
-  return std::equal(
-      a.begin(), a.end(), b.begin(), b.end(),
-      [](auto const& left, auto const& right) { return integersOf(left) == integersOf(right); });
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](auto const& left, auto const& right) {
+                      return Xdk::integersOf(left) == Xdk::integersOf(right);
+                    });
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // The text of a profile: by hand, because contexts are best read a line each.
 #include "standin/xdk/ProfileWriter.h"
 
-#include "standin/xdk/ContextFields.h"
+#include "Xdk/ContextFields.h"
 #include "standin/xdk/TableTypes.h"
 
 #include <algorithm>
@@ -61,7 +61,7 @@ std::size_t listed(Record const&) {
 std::size_t listed(xpHashTableContext const& context) { return context.numOfWays; }
 
 bool isEmpty(auto const& record) {
-  return std::ranges::all_of(integersOf(record), [](U32 integer) { return integer == 0; });
+  return std::ranges::all_of(Xdk::integersOf(record), [](U32 integer) { return integer == 0; });
 }
 
 std::string prefixTables(xpLpmPrefixTable const (&tables)[32]) {
@@ -87,7 +87,7 @@ bool isLeftOut(Record const&, std::string_view name, Field const& field) {
 template <class Record>
 std::string recordText(Record const& record) {
   std::vector<std::string> fields;
-  visitFields(record, [&fields, &record]<class Field>(char const* name, Field const& field) {
+  Xdk::visitFields(record, [&fields, &record]<class Field>(char const* name, Field const& field) {
     if (isLeftOut(record, name, field)) return;
     if constexpr (std::is_integral_v<Field>)
       fields.push_back(member(name, std::to_string(field)));

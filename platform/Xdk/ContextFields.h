@@ -9,14 +9,15 @@
 #include <type_traits>
 #include <vector>
 
-namespace xdksim {
+namespace Xdk {
 
 /// `R` itself, constant or not.
 template <class T, class R>
 concept RecordOf = std::same_as<std::remove_const_t<T>, R>;
 
 /// Calls `visit(name, field)` for each field of `record`.  A field is an integer, an array of
-/// integers, the array of prefix tables or the next-hop index.  The type code is none of them.
+/// integers, the array of prefix tables or the next-hop index.  The type code is none of them, nor
+/// are the SDK's own bytes.
 template <RecordOf<xpTableContext> R, class Visit>
 void visitFields(R& record, Visit&& visit) {
   visit("first", record.first);
@@ -129,4 +130,4 @@ std::vector<U32> integersOf(R const& record) {
   return integers;
 }
 
-}  // namespace xdksim
+}  // namespace Xdk
