@@ -2,6 +2,7 @@
 #include "Swiftlog/Reader.h"
 
 #include "Swiftlog/RingBuf.h"
+#include "Swiftlog/TraceFile.h"
 #include "standin/mox/swiftlog/Cursor.h"
 #include "standin/mox/swiftlog/Layout.h"
 
@@ -25,6 +26,9 @@ FileHeader headerOf(std::span<std::byte const> bytes) {
 }
 
 void checkSizes(FileHeader const& header, U64 size) {
+  // Ahead of all that takes memory: a file with holes can claim any size.
+  if (std::max(header.ringRoom, header.descriptorRoom) > TraceFile::maxRoom)
+    refuse(Mox::format("more room than %u bytes", TraceFile::maxRoom));
   U64 const wanted = U64(sizeof(FileHeader)) + header.descriptorRoom + header.ringRoom;
   if (size != wanted)
     refuse(Mox::format("the file has %llu bytes in place of %llu",
@@ -32,7 +36,8 @@ void checkSizes(FileHeader const& header, U64 size) {
                        static_cast<unsigned long long>(wanted)));
   if (header.descriptorBytes > header.descriptorRoom)
     refuse("the descriptors reach beyond their room");
-  if (header.ringRoom == 0 || header.ringRoom % 8 != 0) refuse("the ring's size is impossible");
+  if (header.ringRoom < TraceFile::minRing || header.ringRoom % 8 != 0)
+    refuse("the ring's size is impossible");
   if (header.tail > header.head || header.head - header.tail > header.ringRoom ||
       header.tail % 8 != 0 || header.head % 8 != 0)
     refuse("the ring's positions are impossible");

@@ -75,6 +75,9 @@ TEST(ReaderTest, TruncatedFileIsRefused) {
 }
 
 TEST(ReaderTest, ImpossibleHeadersAreRefused) {
+  for (std::size_t room : {16, 20})
+    EXPECT_EQ(reading(with(room, TraceFile::maxRoom + 8)),
+              "Swiftlog: more room than 268435456 bytes");
   EXPECT_EQ(reading(with(24, U32(257))), "Swiftlog: the descriptors reach beyond their room");
   for (U64 head : {U64(4), U64(8000), ~U64(0) - 7})
     EXPECT_EQ(reading(with(32, head)), "Swiftlog: the ring's positions are impossible") << head;
