@@ -24,7 +24,8 @@ constexpr char const* description =
 
 constexpr char const* footer =
     "Exit status: 0 success, 1 failure, such as output that can't be written, 2 wrong usage or a\n"
-    "bad profile.  Where the library ends the process by assertion, the tool is aborted.";
+    "bad profile or trace file.  Where the library ends the process by assertion, the tool is\n"
+    "aborted.";
 
 std::string quoted(std::string const& text) { return '"' + text + '"'; }
 
@@ -53,6 +54,32 @@ void addProfile(CLI::App& command, Request& request) {
       ->type_name("FILE");
 }
 
+void addInsight(CLI::App& command, Request& request) {
+  command
+      .add_option("--trace", request.insight.patterns,
+                  "Show the traces of these facilities, and levels if any are named, on standard "
+                  "error, such as \"Xp*/0-3,7\"; may be given several times")
+      ->type_name("PATTERN")
+      ->allow_extra_args(false);
+  command
+      .add_option("--swiftlog", request.insight.swiftlog,
+                  "Record the run in this file, which \"kestrel trace\" prints")
+      ->type_name("FILE");
+}
+
+/// The options of all commands that bring a chip of the user's up.
+void addChip(CLI::App& command, Request& request) {
+  addProfile(command, request);
+  addInsight(command, request);
+}
+
+void addTrace(CLI::App& app, Request& request) {
+  addCommand(app, "trace", "Print the records of a trace file, the oldest first", request, trace)
+      .add_option("FILE", request.traceFile, "What --swiftlog of another command has made")
+      ->required()
+      ->type_name("");
+}
+
 void addReports(CLI::App& app, Request& request) {
   CLI::App& report =
       *app.add_subcommand("report", "Bring a simulated chip up and report its tables");
@@ -64,18 +91,21 @@ void addReports(CLI::App& app, Request& request) {
           "--table", [&request](std::string const& text) { request.tableId = tableIdOf(text); },
           "The line of this table alone")
       ->type_name("ID");
-  addProfile(summary, request);
-  addProfile(addCommand(report, "tables", "Id and name of each table", request, reportTables),
-             request);
+  addChip(summary, request);
+  addChip(addCommand(report, "tables", "Id and name of each table", request, reportTables),
+          request);
 }
 
 void addCommands(CLI::App& app, Request& request) {
   app.require_subcommand(1);
-  addCommand(app, "demo", "Bring the built-in chip up and tell what happens", request, demo);
+  addInsight(
+      addCommand(app, "demo", "Bring the built-in chip up and tell what happens", request, demo),
+      request);
   addReports(app, request);
-  addProfile(addCommand(app, "bringup", "Bring a chip up and print each call of the SDK", request,
-                        bringUp),
-             request);
+  addChip(addCommand(app, "bringup", "Bring a chip up and print each call of the SDK", request,
+                     bringUp),
+          request);
+  addTrace(app, request);
   addCommand(app, "profile", "Print the built-in profile", request, profile);
   addCommand(app, "types", "Print the types of the library's modules, by their descriptors",
              request, types)
@@ -100,9 +130,11 @@ void complain(std::string const& complaint) {
 
 /// What is wrong, where the parser's own words aren't the best.
 std::string faultOf(CLI::App const& app, CLI::ParseError const& fault) {
-  std::string const command = quoted(fullName(namedCommand(app)));
+  CLI::App const& named = namedCommand(app);
+  std::string const command = quoted(fullName(named));
   std::vector<std::string> const unknown = app.remaining(true);
-  bool const needsCommand = dynamic_cast<CLI::RequiredError const*>(&fault) != nullptr;
+  bool const needsCommand = dynamic_cast<CLI::RequiredError const*>(&fault) != nullptr &&
+                            named.get_require_subcommand_min() > 0;
   if (needsCommand && unknown.empty()) return command + " needs a command";
   if (needsCommand) return command + " has no command " + quoted(unknown.front());
   if (!unknown.empty()) return command + " takes no " + quoted(unknown.front());

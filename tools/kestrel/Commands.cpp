@@ -40,12 +40,14 @@ bool wantsColour() {
 
 }  // namespace
 
-void demo(Request const&, std::ostream& out) {
+void demo(Request const& request, std::ostream& out) {
+  Insight const insight(request.insight);
   printDemo(xdksim::defaultProfile(), wantsColour(), out);
 }
 
 void reportSummary(Request const& request, std::ostream& out) {
   Chip chip = chipFor(request);
+  Insight const insight(request.insight);
   chip.bringUp();
   if (request.tableId)
     printTableSummary(chip, *request.tableId, out);
@@ -55,18 +57,22 @@ void reportSummary(Request const& request, std::ostream& out) {
 
 void reportTables(Request const& request, std::ostream& out) {
   Chip chip = chipFor(request);
+  Insight const insight(request.insight);
   chip.bringUp();
   printTables(chip, out);
 }
 
 void bringUp(Request const& request, std::ostream& out) {
   Chip chip = chipFor(request);
+  Insight const insight(request.insight);
   printBringUp(chip, out);
 }
 
 void profile(Request const&, std::ostream& out) {
   out << xdksim::writeProfile(xdksim::defaultProfile());
 }
+
+void trace(Request const& request, std::ostream& out) { printTraceFile(request.traceFile, out); }
 
 void types(Request const& request, std::ostream& out) {
   if (request.json)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Mox/Integers.h"
+#include "tools/kestrel/Insight.h"
 
 #include <iosfwd>
 #include <optional>
@@ -12,13 +13,16 @@ namespace kestrel {
 /// What the user has asked for.  A command looks at the options that it has.
 struct Request;
 
-/// Prints to the stream.  All that bring a chip up throw `UsageFault` for a bad profile.
+/// Prints to the stream.  All that bring a chip up throw `UsageFault` for a bad profile or trace
+/// pattern.
 using Command = void (*)(Request const&, std::ostream&);
 
 struct Request {
   Command command = nullptr;
   std::optional<std::string> profile;  ///< a file; none for the built-in profile
   std::optional<U32> tableId;          ///< none for all tables
+  InsightRequest insight;
+  std::string traceFile;  ///< to be printed
   bool json = false;
 };
 
@@ -28,6 +32,8 @@ void reportSummary(Request const& request, std::ostream& out);
 void reportTables(Request const& request, std::ostream& out);
 void bringUp(Request const& request, std::ostream& out);
 void profile(Request const& request, std::ostream& out);
+/// Throws `UsageFault` for a trace file that can't be read or is damaged.
+void trace(Request const& request, std::ostream& out);
 void types(Request const& request, std::ostream& out);
 
 }  // namespace kestrel
