@@ -42,7 +42,10 @@ write_basic_package_version_file("${CMAKE_BINARY_DIR}/KestrelTypesConfigVersion.
 install(FILES "${CMAKE_BINARY_DIR}/KestrelTypesConfig.cmake"
   "${CMAKE_BINARY_DIR}/KestrelTypesConfigVersion.cmake" DESTINATION ${package_to})
 
+set(pkgconfig_to ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY
+  "${CMAKE_INSTALL_PREFIX}/${pkgconfig_to}" OUTPUT_VARIABLE prefix_from_pkgconfig)
 configure_file("${PROJECT_SOURCE_DIR}/cmake/kestreltypes.pc.in"
   "${CMAKE_BINARY_DIR}/kestreltypes.pc" @ONLY)
 install(FILES "${CMAKE_BINARY_DIR}/kestreltypes.pc"
-  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+  DESTINATION ${pkgconfig_to})

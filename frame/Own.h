@@ -18,7 +18,8 @@ typename A::Value ownNew(typename A::Owner& owner, Args const&... args) {
 }
 
 /// The child under that name.  One that bears it already is kept whatever the further arguments,
-/// and the version alone steps; another one is detached and replaced, and the notifiees hear of it.
+/// and the version alone steps; another one is detached and replaced: the version steps twice, and
+/// the notifiees hear of it once.
 template <EntityAttribute A, class... Args>
 typename A::Value ownIs(typename A::Owner& owner, Mox::Name const& name, Args const&... args) {
   auto& stored = A::field(owner);

@@ -48,6 +48,7 @@ std::ostream& operator<<(std::ostream& out, BoundedInteger<Self, Storage, max> c
 
 }  // namespace Mox
 
+/// An integer of 1 bit.
 class U1 : public Mox::BoundedInteger<U1, U8, 0x01> {
  public:
   using BoundedInteger::BoundedInteger;
@@ -55,6 +56,7 @@ class U1 : public Mox::BoundedInteger<U1, U8, 0x01> {
   static Mox::MoxType* _fwkType();
 };
 
+/// An integer of 4 bits.
 class U4 : public Mox::BoundedInteger<U4, U8, 0x0F> {
  public:
   using BoundedInteger::BoundedInteger;
@@ -62,6 +64,7 @@ class U4 : public Mox::BoundedInteger<U4, U8, 0x0F> {
   static Mox::MoxType* _fwkType();
 };
 
+/// An integer of 6 bits.
 class U6 : public Mox::BoundedInteger<U6, U8, 0x3F> {
  public:
   using BoundedInteger::BoundedInteger;
@@ -69,6 +72,7 @@ class U6 : public Mox::BoundedInteger<U6, U8, 0x3F> {
   static Mox::MoxType* _fwkType();
 };
 
+/// An integer of 22 bits.
 class U22 : public Mox::BoundedInteger<U22, U32, 0x3FFFFF> {
  public:
   using BoundedInteger::BoundedInteger;

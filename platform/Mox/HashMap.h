@@ -29,7 +29,7 @@ class HashMapIteratorGeneric {
 
  protected:
   explicit HashMapIteratorGeneric(HashMapGeneric const& map) : map_(&map), changes_(map.changes()) {
-    seek([&map](int* bucket) { return map.findNextG(nullptr, bucket); });
+    seek([&map](int* bucket) { return map.findNextBucket(bucket); });
   }
   HashMapIteratorGeneric(HashMapGeneric const& map, void const* key, U32 hash)
       : map_(&map), changes_(map.changes()) {

@@ -63,8 +63,10 @@ struct KeyOps {
       return static_cast<U32>(key);
     else if constexpr (HashedKey<Key>)
       return key.hash();
-    else
+    else {
+      static_assert(SingleFieldKey<Key>, "a key is a number, or has hash() or value()");
       return static_cast<U32>(key.value());
+    }
   }
 
   static bool equals(Key const& a, Key const& b) noexcept {

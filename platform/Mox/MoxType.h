@@ -83,7 +83,7 @@ class MoxType : public MoxAttr {
   MoxType(Name const& shortName, MoxType* scope, MoxType* base, MoxTypeFlags const& flags);
 
   MoxType* base() const noexcept { return base_; }
-  /// The name with its namespace: what `typeNodeIs` or `handleType` gave, else the short name.
+  /// The name with its namespace: what `handleType` gave, else the short name.
   Name const& fullTypeName() const noexcept { return fullTypeName_; }
   void fullTypeNameIs(Name const& name) { fullTypeName_ = name; }
 

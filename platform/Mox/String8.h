@@ -136,7 +136,7 @@ std::ostream& operator<<(std::ostream& out, String8 const& text);
 
 extern template class StringN<unsigned char>;
 
-/// Jenkins's one-at-a-time hash, fed piece by piece; all in 32 bits.
+/// The one-at-a-time hash, fed piece by piece; all in 32 bits.
 class OneAtATime {
  public:
   void add(U8 byte) noexcept {

@@ -4,7 +4,7 @@
 #include "Mox/TraceAt.h"
 #include "Xdk/LpmTableContext.h"
 #include "Xdk/TableContexts.h"
-#include "XpLib/XpTableCliHelperSource.h"
+#include "XpLib/XpTableCliHelperDiagnostics.h"
 
 #include <algorithm>
 #include <bit>

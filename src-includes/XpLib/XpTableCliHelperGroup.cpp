@@ -1,6 +1,6 @@
 // What is special about groups of tables: order, hash, text.
 #include "XpLib/XpTableCliHelper.h"
-#include "XpLib/XpTableCliHelperSource.h"
+#include "XpLib/XpTableCliHelperDiagnostics.h"
 
 namespace Kestrel {
 

@@ -1,7 +1,7 @@
 // The reports: the list of tables, and the summary of their memory.
 #include "XpLib/XpTableCliHelper.h"
 #include "XpLib/XpTableCliHelperDecoding.h"
-#include "XpLib/XpTableCliHelperSource.h"
+#include "XpLib/XpTableCliHelperDiagnostics.h"
 
 namespace Kestrel {
 

@@ -11,8 +11,8 @@ inline constexpr char const* sourcePath = "src-includes/XpLib/XpTableManSm";
 /// Stands in a static variable of the operation, where it keeps the operation's place in the
 /// process's trace file:
 ///
-///   static constinit Operation here("doCreateFdbTable", "void
-///   Kestrel::TableManSm::doCreateFdbTable()");
+///   static constinit Operation here("doCreateFdbTable",
+///                                   "void Kestrel::TableManSm::doCreateFdbTable()");
 struct Operation {
   constexpr Operation(char const* name, char const* signature, int line = __builtin_LINE()) noexcept
       : name(name), signature(signature), line(line), site(sourcePath, line) {}

@@ -1,5 +1,5 @@
 // Traces and assertions in the name of the module.
-#include "XpLib/XpTableCliHelperSource.h"
+#include "XpLib/XpTableCliHelperDiagnostics.h"
 
 #include "Mox/Assert.h"
 #include "Mox/TraceAt.h"
