@@ -1,6 +1,8 @@
 // What a schema must keep to beyond its grammar: the rules on whole files.
 #include "tools/schemac/Checker.h"
 
+#include "tools/schemac/DefaultChecker.h"
+#include "tools/schemac/NameChecker.h"
 #include "tools/schemac/TypeChecker.h"
 
 #include <set>
@@ -11,8 +13,11 @@ namespace {
 
 class Checker {
  public:
-  Checker(Schema const& builtin, Diagnostics& diagnostics)
+  Checker(Schema const& builtin, std::vector<Schema> const& schemas, Diagnostics& diagnostics)
       : builtin_(builtin), diagnostics_(diagnostics) {
+    for (Schema const& schema : schemas)
+      for (Type const& type : schema.types)
+        definitions_.emplace(qualified(type.space, type.name), &type);
     for (Extern const& type : builtin.externs) builtinNames_.insert(type.name);
   }
 
@@ -24,7 +29,11 @@ class Checker {
     externs(schema);
     for (Type const& type : schema.types) declared(type);
     Symbols const symbols(builtin_, schema);
-    for (Type const& type : schema.types) TypeChecker(symbols, type, diagnostics_).run();
+    checkNamespace(schema, symbols, diagnostics_);
+    for (Type const& type : schema.types) {
+      checkNames(schema, symbols, definitions_, type, diagnostics_);
+      TypeChecker(symbols, type, diagnostics_).run();
+    }
   }
 
  private:
@@ -35,6 +44,10 @@ class Checker {
         diagnostics_.error(type.at, quoted(type.name) + " is declared twice");
       if (type.kind != Kind::primitive && !type.options.count("header"))
         diagnostics_.error(type.at, quoted(type.name) + " names no header");
+      auto range = type.options.find("range");
+      if (range != type.options.end() && !boundsIn(range->second.text))
+        diagnostics_.error(range->second.at,
+                           "expected a range such as 0..127, found " + quoted(range->second.text));
     }
   }
 
@@ -50,12 +63,13 @@ class Checker {
   std::set<std::string> local_;    // known in the file at hand
   std::set<std::string> defined_;  // defined in any file of the run
   std::set<std::string> modules_;
+  Definitions definitions_;
 };
 
 }  // namespace
 
 void check(Schema const& builtin, std::vector<Schema> const& schemas, Diagnostics& diagnostics) {
-  Checker checker(builtin, diagnostics);
+  Checker checker(builtin, schemas, diagnostics);
   for (Schema const& schema : schemas) checker.file(schema);
 }
 

@@ -179,7 +179,54 @@ TEST(CheckerTest, ABaseIsAnEntityAbove) {
             "s:3:11: error: only an entity has a base\n");
 }
 
+TEST(CheckerTest, EnumerationsStandAboveAllThatNameThem) {
+  EXPECT_EQ(inEntity("- operation f (a M)\nend\nenum M\n0 a"),
+            "s:3:18: error: \"M\" must stand above \"X\"\n");
+}
+
+TEST(CheckerTest, RawPointersStandWhereNobodyLooksAtThem) {
+  EXPECT_EQ(inEntity("258 scalar x U8*"),
+            "s:3:14: error: a scalar can't hold a raw pointer here\n");
+  EXPECT_EQ(inEntity("258 map x U8 -> U8*"),
+            "s:3:17: error: a map can't hold a raw pointer here\n");
+  EXPECT_EQ(errors("value X\n2 x U8*\nend\n"),
+            "s:3:5: error: a field can't hold a raw pointer here\n");
+  EXPECT_EQ(inEntity("258 operation f (a U8*) -> U8*\n259 computed x U8*"), "");
+}
+
+TEST(CheckerTest, AFieldOfAValueIsOfATypeThatRecordsKnow) {
+  EXPECT_EQ(errors("value X\n2 x bool\nend\n"),
+            "s:3:5: error: \"bool\" can't be a field of a value\n");
+  EXPECT_EQ(errors("object X\n130 field x bool\nend\n"), "");
+}
+
+TEST(CheckerTest, AValueWithoutFieldsIsMadeByHand) {
+  std::string const rows = "\n2 map x U8 -> U8\nend\n";
+  EXPECT_EQ(errors("value X customText customParser" + rows),
+            "s:2:7: error: a value without fields needs the options \"customText\", "
+            "\"customParser\" and \"customOrder\"\n");
+  EXPECT_EQ(errors("value X customText customParser customOrder" + rows), "");
+}
+
+TEST(CheckerTest, AHashOfFieldsIsAnIntegerOfAValueThatHasSome) {
+  EXPECT_EQ(inEntity("258 computed h U32 ofFields"),
+            "s:3:1: error: \"h\" needs a value with fields that have no range\n");
+  EXPECT_EQ(errors("value X\n2 x U8 in 0..9 else \"m\"\n3 computed h U32 ofFields\nend\n"),
+            "s:4:1: error: \"h\" needs a value with fields that have no range\n");
+  EXPECT_EQ(errors("value X\n2 x U8\n3 computed h double ofFields\nend\n"),
+            "s:4:14: error: a hash is an integer, unlike \"double\"\n");
+}
+
 // Constructors.
+
+TEST(CheckerTest, TheBaseGetsItsParameters) {
+  std::string const base = "entity B (name Mox::Name, l U8)\n258 param l U8\nend\n";
+  EXPECT_EQ(errors(base + "entity X (name Mox::Name) : B\nend\n"),
+            "s:5:29: error: the parameters that aren't rows of \"X\" are other than those of "
+            "\"B\"\n");
+  EXPECT_EQ(errors(base + "entity X (n Mox::Name, own U8, lane U8) : B\n386 param own U8\nend\n"),
+            "");
+}
 
 TEST(CheckerTest, ParametersAreRowsOrGoToTheBase) {
   EXPECT_EQ(inEntity("", "(name Mox::Name, lane U8)"),

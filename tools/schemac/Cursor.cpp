@@ -9,13 +9,6 @@ namespace {
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-bool isName(std::string_view word) {
-  auto isNameByte = [](char c) {
-    return isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
-  };
-  return !word.empty() && !isDigit(word.front()) && std::ranges::all_of(word, isNameByte);
-}
-
 bool isQualifiedName(std::string_view word) {
   std::size_t colon = word.find("::");
   if (colon == std::string_view::npos) return isName(word);
@@ -34,6 +27,13 @@ std::string described(Token const& token) {
 }
 
 }  // namespace
+
+bool isName(std::string_view word) {
+  auto isNameByte = [](char c) {
+    return isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+  };
+  return !word.empty() && !isDigit(word.front()) && std::ranges::all_of(word, isNameByte);
+}
 
 bool Cursor::isWord(std::string_view word) const {
   return is(Token::Kind::word) && peek().text == word;

@@ -15,6 +15,9 @@ struct LineError {
   std::string what;
 };
 
+/// True for a word that C++ could take as a name: letters, digits, underscores.
+bool isName(std::string_view word);
+
 /// Reads tokens one after the other.  Every `take` and every piece throws `LineError` when
 /// something else stands there.
 class Cursor {

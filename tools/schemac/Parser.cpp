@@ -84,6 +84,7 @@ class Parser {
     else if (!schema_.types.empty())
       diagnostics_.error(space.at, "the namespace must stand above all types");
     schema_.space = space.text;
+    schema_.spaceAt = space.at;
     endOfLine();
   }
 

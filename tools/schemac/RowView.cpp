@@ -89,7 +89,7 @@ Scope Names::rowScope(Type const& type, Row const& row) const {
   auto& key = scope.lists["key"];
   if (auto use = keyType(type, row)) key.push_back(useScope(type, *use));
   scope.texts["by"] = row.by ? row.by->text : "";
-  scope.texts["default"] = row.defaultValue ? row.defaultValue->text : "";
+  scope.texts["default"] = defaultText(type, row);
   addRange(scope, row);
   auto& args = scope.lists["args"];
   auto& others = scope.lists["otherArgs"];
@@ -98,6 +98,17 @@ Scope Names::rowScope(Type const& type, Row const& row) const {
     if (!row.by || argument.name != row.by->text) others.push_back(args.back());
   }
   return scope;
+}
+
+std::string Names::defaultText(Type const& type, Row const& row) const {
+  if (!row.defaultValue) return "";
+  std::string const& text = row.defaultValue->text;
+  Symbol const& symbol = *symbols.find(type.space, *row.type);
+  if (isText(symbol)) return "\"" + text + "\"";
+  // A member of the class may bear the enumerator's name.
+  if (symbol.kind == Kind::enumeration)
+    return symbolScope(type, symbol).texts.at(selfName) + "::" + text;
+  return text;
 }
 
 Scope Names::argumentScope(Type const& type, Argument const& argument) const {
@@ -140,6 +151,7 @@ Scope Names::symbolScope(Type const& type, Symbol const& symbol) const {
   scope.flag("hasDescriptor", symbol.kind != Kind::object && symbol.kind != Kind::primitive);
   scope.flag("isConst", false);
   scope.flag("isPointer", false);
+  scope.flag("isMox", symbol.kind == Kind::primitive || symbol.space == "Mox");
   scope.flag("isOwn", symbol.type != nullptr);
   return scope;
 }

@@ -33,6 +33,8 @@ struct Names {
   bool isElement(Type const& type) const;
 
   /// All below as seen inside of `type`.
+  /// The default as C++ spells it; "" for none.
+  std::string defaultText(Type const& type, Row const& row) const;
   Scope rowScope(Type const& type, Row const& row) const;
   Scope argumentScope(Type const& type, Argument const& argument) const;
   Scope useScope(Type const& type, TypeUse const& use) const;

@@ -60,7 +60,8 @@ int compile(CommandLine const& asked, std::ostream& out, std::ostream& err) {
 
 }  // namespace
 
-int run(std::vector<std::string> const& arguments, std::ostream& out, std::ostream& err) {
+int run(std::vector<std::string> const& arguments, std::string const& version, std::ostream& out,
+        std::ostream& err) {
   std::string fault;
   auto asked = parseArguments(arguments, fault);
   if (!asked) {
@@ -68,7 +69,7 @@ int run(std::vector<std::string> const& arguments, std::ostream& out, std::ostre
     return wrongUsage;
   }
   if (asked->help || asked->version) {
-    out << (asked->help ? usage : "schemac 1.0\n");
+    out << (asked->help ? std::string(usage) : "schemac " + version + "\n");
     return done;
   }
   try {

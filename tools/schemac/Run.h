@@ -8,6 +8,8 @@
 namespace schemac {
 
 /// Does what `arguments`, those behind the program's name, ask for, and returns the exit code.
-int run(std::vector<std::string> const& arguments, std::ostream& out, std::ostream& err);
+/// `version` is the program's own.
+int run(std::vector<std::string> const& arguments, std::string const& version, std::ostream& out,
+        std::ostream& err);
 
 }  // namespace schemac

@@ -44,7 +44,7 @@ class RunTest : public testing::Test {
   int run(std::vector<std::string> const& arguments) {
     out_.str("");
     err_.str("");
-    return schemac::run(arguments, out_, err_);
+    return schemac::run(arguments, "2.7", out_, err_);
   }
 
   std::string const name_ = testing::UnitTest::GetInstance()->current_test_info()->name();
@@ -133,7 +133,7 @@ TEST_F(RunTest, HelpAndVersionGoToStandardOutput) {
   EXPECT_EQ(run({"--help"}), 0);
   EXPECT_EQ(out_.str(), usage);
   EXPECT_EQ(run({"--version"}), 0);
-  EXPECT_EQ(out_.str(), "schemac 1.0\n");
+  EXPECT_EQ(out_.str(), "schemac 2.7\n");
 }
 
 TEST_F(RunTest, WrongUsageSaysWhatIsWrong) {

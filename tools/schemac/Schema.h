@@ -91,6 +91,7 @@ struct Schema {
   std::string module;
   std::string header;
   std::string space;  ///< the namespace of all its types, maybe empty
+  Position spaceAt;
   bool closed = false;
   std::vector<Extern> externs;
   std::vector<Type> types;

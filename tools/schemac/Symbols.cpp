@@ -18,6 +18,10 @@ std::string lastName(std::string const& name) {
 
 }  // namespace
 
+bool isText(Symbol const& type) {
+  return hasWord("String8 Mox::String8 Mox::String Mox::Name", type.name);
+}
+
 Symbols::Symbols(Schema const& builtin, Schema const& schema) {
   addExterns(builtin);
   addExterns(schema);
@@ -50,6 +54,12 @@ Symbol const* Symbols::find(std::string space, std::string const& name) const {
   }
 }
 
+std::vector<std::string> Symbols::names() const {
+  std::vector<std::string> result;
+  for (auto const& [name, symbol] : symbols_) result.push_back(name);
+  return result;
+}
+
 Type const* Symbols::ownBase(Type const& type) const {
   Symbol const* base = type.base ? find(type.space, *type.base) : nullptr;
   return base ? base->type : nullptr;
@@ -59,7 +69,8 @@ TypeUse const* Symbols::attributeType(Type const& type, std::string const& name)
   for (Argument const& argument : type.arguments)
     if (argument.name == name) return &argument.type;
   for (Row const& row : type.rows)
-    if (row.name == name && row.type && !row.key) return &*row.type;
+    if (row.name == name && row.type && !row.key && row.shape->form == Form::type)
+      return &*row.type;
   return nullptr;
 }
 

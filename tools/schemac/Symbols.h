@@ -5,6 +5,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace schemac {
 
@@ -19,6 +20,9 @@ struct Symbol {
   Extern const* external = nullptr;  ///< the declaration, if it isn't
 };
 
+/// True for a type whose values are texts.
+bool isText(Symbol const& type);
+
 /// All types of one schema and of the built-in schema, by full name.  Points into both.
 class Symbols {
  public:
@@ -30,6 +34,8 @@ class Symbols {
   Symbol const* find(std::string const& space, TypeUse const& use) const {
     return find(space, use.name);
   }
+  /// The full names of all types.
+  std::vector<std::string> names() const;
   /// The definition of the base of `type`, if that is one of the schema's own.
   Type const* ownBase(Type const& type) const;
   /// The attribute `name` of `type` that may serve as a key: its type, or null.

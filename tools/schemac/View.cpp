@@ -92,7 +92,8 @@ void addConstructor(Names const& names, Type const& type, Scope& scope) {
     (isOwn ? own : base).push_back(params.back());
   }
   scope.flag("oneParam", params.size() == 1);
-  bool takesName = !params.empty() && params.front().texts["name"] == "name";
+  bool takesName = std::ranges::any_of(
+      type.arguments, [](Argument const& argument) { return argument.name == "name"; });
   scope.flag("takesName", takesName);
   scope.flag("takesOnlyName", takesName && params.size() == 1);
   auto& key = scope.lists["keyType"];
@@ -104,11 +105,19 @@ void addConstructor(Names const& names, Type const& type, Scope& scope) {
   scope.flag("ownKey", std::ranges::any_of(own, isKey));
 }
 
+// What the tags of a type call it: its name, unless the tag of a row hides that.
+std::string nameInTags(Type const& type) {
+  bool hidden = std::ranges::any_of(
+      type.rows, [&type](Row const& row) { return capitalised(row.name) == type.name; });
+  return hidden ? "::" + qualified(type.space, type.name) : type.name;
+}
+
 Scope typeScope(Names const& names, Type const& type) {
   Scope scope;
   scope.shape = kindName(type.kind);
   scope.texts["Class"] = type.name;
   scope.texts["class"] = uncapitalised(type.name);
+  scope.texts["owner"] = nameInTags(type);
   scope.texts["fullName"] = qualified(type.space, type.name);
   scope.texts["space"] = type.space;
   scope.texts["path"] = outputPath(type.space, type.name);

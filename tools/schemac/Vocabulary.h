@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace schemac {
 
@@ -32,6 +33,11 @@ struct Shape {
   bool takesDefault = false;
   bool takesRange = false;
   bool takesArguments = false;
+  /// What C++ code gets from a row, as words with `$name$` and `$Name$`: members of the class, of
+  /// its `NotifieeConst` and its `Tags`, and what only the source knows behind "::".
+  std::string_view makes = "";
+  /// The types inside of the row's own tag.
+  std::string_view tagTypes = "";
 };
 
 std::span<Shape const> shapes();
@@ -52,10 +58,22 @@ std::span<Option const> options();
 /// The option of that name at `place`, or null.
 Option const* optionAt(std::string_view place, std::string_view name);
 
+/// What the code of a type of `kind` has by itself, so that no row can make it; written as in
+/// `Shape::makes`, with `$Class$`, `$class$` and `$module$`.  For enumerations: what every schema
+/// has in its namespace.
+std::string_view namesOfKind(Kind kind);
+
+/// What the namespace gets from a type, written in the same way.
+inline constexpr std::string_view namesOfType = "$Class$ $class$Row $class$Type $class$Factory";
+inline constexpr std::string_view namesOfEnum = "$Class$Instance _fwkType_$Class$";
+
+/// The words in `words`, which are separated by single spaces.
+std::vector<std::string_view> wordsOf(std::string_view words);
+
 /// True where `words`, separated by single spaces, contain `word`.
 bool hasWord(std::string_view words, std::string_view word);
 
-/// True for a word that C++ keeps for itself.
+/// True for a word that C++ keeps for itself, or for a macro.
 bool isReserved(std::string_view word);
 
 }  // namespace schemac

@@ -4,5 +4,5 @@
 #include <iostream>
 
 int main(int argc, char** argv) {
-  return schemac::run({argv + 1, argv + argc}, std::cout, std::cerr);
+  return schemac::run({argv + 1, argv + argc}, SCHEMAC_VERSION, std::cout, std::cerr);
 }
