@@ -71,6 +71,9 @@ class Entity : public PtrInterface {
   /// The runtime's flag word; its low half starts at 136.
   U32 moxFlags() const noexcept { return flags_; }
 
+  /// The same as `name()`, without a copy.
+  Name const& moxName() const noexcept { return name_; }
+
   /// One write more.
   void moxVersionInc() noexcept { ++version_; }
   /// Counts a read, and hands `value` through.

@@ -81,6 +81,7 @@ void addFields(Names const& names, Type const& type, Scope& scope) {
 
 void addConstructor(Names const& names, Type const& type, Scope& scope) {
   scope.flag("ownKey", false);
+  scope.flag("nameKey", false);
   auto& params = scope.lists["params"];
   auto& own = scope.lists["ownParams"];
   auto& base = scope.lists["baseParams"];
@@ -103,6 +104,7 @@ void addConstructor(Names const& names, Type const& type, Scope& scope) {
   key.push_back(names.useScope(type, *Symbols::attributeType(type, name)));
   auto isKey = [&](Scope const& param) { return param.texts.at("name") == name; };
   scope.flag("ownKey", std::ranges::any_of(own, isKey));
+  scope.flag("nameKey", name == "name");
 }
 
 // What the tags of a type call it: its name, unless the tag of a row hides that.

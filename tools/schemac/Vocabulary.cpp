@@ -84,7 +84,7 @@ constexpr std::string_view entityNames =
     "name parent parentIs parentAttr parentAttrId parentAttrIdIs uriPath fullName attributeString "
     "moxNotifieeAdapterIs handleParent moxNboAttrLogSa moxHasAttrLogInterface "
     "moxNboAttrLogSaForMsgChannel moxNboAttrLogSaIs moxNboAttrLogSaDel MoxNboAttrLogSa version "
-    "readCount moxFlags moxVersionInc moxRead moxParentGone "
+    "readCount moxFlags moxName moxVersionInc moxRead moxParentGone "
     // Mox::PtrInterface
     "hasNotificationActiveIs moxAuditErrors auditErrors zeroReferencesIs referencesInc "
     "referencesDec references referenceWord referenceWord_ enableThreadSafePointers handleZeroRef "

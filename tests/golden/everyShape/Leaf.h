@@ -38,7 +38,7 @@ class Leaf : public Mox::Entity {
   Mox::ListRaw<NotifieeConst>& moxNotifiees() const { return notifiees_; }
 
   /// The key under which a collection holds this entity; no read is counted.
-  Mox::Name moxKey() const { return name(); }
+  Mox::Name const& moxKey() const { return moxName(); }
 
  private:
   U8 const lane_;
