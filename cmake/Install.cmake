@@ -23,15 +23,15 @@ if(TARGET kestrel)
   install(TARGETS kestrel RUNTIME DESTINATION bin)
 endif()
 
-# What the include roots of the build hold goes into one; tags are for generated sources alone.
-set(only_headers FILES_MATCHING PATTERN "*.h" PATTERN "*.tags.h" EXCLUDE
+# What the include roots of the build hold goes into one.  Tags and modules are for bodies, and speak of
+# the engines, which no library exports.
+set(only_headers FILES_MATCHING PATTERN "*.h" PATTERN "*.tags.h" EXCLUDE PATTERN "*.module.h" EXCLUDE
   REGEX "${kestrel_test_file}" EXCLUDE)
 if(KESTREL_STANDIN)
   install(DIRECTORY "${PROJECT_SOURCE_DIR}/platform/" DESTINATION ${headers_to} ${only_headers})
 endif()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/src-includes/" DESTINATION ${headers_to} ${only_headers})
 install(DIRECTORY "${KESTREL_GENERATED}/" DESTINATION ${headers_to} ${only_headers})
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/frame" DESTINATION ${headers_to} ${only_headers})
 
 set(package_to ${CMAKE_INSTALL_LIBDIR}/cmake/KestrelTypes)
 install(EXPORT KestrelTypesTargets NAMESPACE KestrelTypes:: DESTINATION ${package_to})

@@ -5,7 +5,7 @@
 #   build   what builds and tests the system in 64 bit
 #   32      the 32-bit compiler and libraries
 #   clang   the second compiler
-#   check   the formatter, and pkg-config for the test of the installed library
+#   check   the formatter
 #   bench   Google Benchmark and the peers that the benches compare with
 #   tidy    the linter
 # Where all are installed it does nothing.  As root on Debian it installs what is missing; anybody
@@ -13,10 +13,10 @@
 set -euo pipefail
 
 declare -A packages=(
-  [build]="g++ make cmake ninja-build nlohmann-json3-dev libcli11-dev googletest"
+  [build]="g++ make cmake ninja-build pkg-config nlohmann-json3-dev libcli11-dev googletest"
   [32]="g++-multilib"
   [clang]="clang"
-  [check]="clang-format-14 pkg-config"
+  [check]="clang-format-14"
   [bench]="libbenchmark-dev libboost-dev libsigc++-2.0-dev libabsl-dev"
   [tidy]="clang-tidy-14"
 )

@@ -48,7 +48,8 @@ struct TypeRow {
   U32 size;
   std::span<ArgRow const> args;
   std::span<AttributeRow const> attributes;
-  /// Where the loaded module keeps its attributes' descriptors, one for each row.
+  /// Where the loaded module keeps its attributes' descriptors, one for each row, for access by
+  /// number: nobody looks them up by name again.
   Mox::MoxAttr const** attributeCache;
   /// The attribute of a single-field value that is the value.
   char const* valueAttribute = nullptr;

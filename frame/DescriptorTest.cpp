@@ -130,8 +130,10 @@ TEST(DescriptorTest, DescriptorIsMadeOnce) {
 }
 
 TEST(DescriptorTest, RootsCanBeMadeByTheirDescriptor) {
-  Mox::Ptr<Mox::Entity> const none = everyShape::Leaf::_fwkType()->newEntity("x", nullptr);
-  EXPECT_FALSE(none);
+  auto const grove = everyShape::Grove::_fwkType()->newEntity("x", nullptr);
+  EXPECT_TRUE(Mox::ptrCast<everyShape::Grove>(grove));
+  EXPECT_EQ(grove->name(), Mox::Name("x"));
+  EXPECT_FALSE(everyShape::Leaf::_fwkType()->newEntity("x", nullptr)) << "it is no root";
 }
 
 TEST(DescriptorTest, AttributesAreNamed) {

@@ -19,7 +19,8 @@ typename A::Value ownNew(typename A::Owner& owner, Args const&... args) {
 
 /// The child under that name.  One that bears it already is kept whatever the further arguments,
 /// and the version alone steps; another one is detached and replaced: the version steps twice, and
-/// the notifiees hear of it once.
+/// the notifiees hear of it once.  Raises `RangeException` "null ValidPtr" when one of them has
+/// taken the new child away.
 template <EntityAttribute A, class... Args>
 typename A::Value ownIs(typename A::Owner& owner, Mox::Name const& name, Args const&... args) {
   auto& stored = A::field(owner);

@@ -82,7 +82,7 @@ void ownsDelAll(typename A::Owner& owner) {
 /// Before the owner's members go: children may live on, and must not look up to it.
 template <EntityAttribute A>
 void ownsForsake(typename A::Owner& owner) {
-  for (auto& node : A::map(owner)) A::childOf(node)->moxParentGone();
+  A::map(owner).forEachNode([](auto& node) { A::childOf(node)->moxParentGone(); });
 }
 
 }  // namespace frame

@@ -12,7 +12,8 @@ namespace Mox {
 /// The position of a change-proof walk: it holds its node, and finds its way on by the order of the
 /// map when the map has changed since it last looked.  A removed element isn't seen unless it is
 /// the current one, which stays readable; an inserted one is seen if it falls behind the position.
-/// The map must outlive the walk.
+/// Where a removed element was equivalent to others of its chain (keys of which neither is less),
+/// its place is lost: the walk goes on behind the chain.  The map must outlive the walk.
 class HashMapIteratorGeneric {
  public:
   HashMapIteratorGeneric() = default;
@@ -270,7 +271,7 @@ class HashMap : public HashMapGeneric {
   }
 
   void copyNodes(HashMap const& other) {
-    for (Node const& node : other) newMember(new Node(node.key(), node.value()));
+    other.forEachNode([this](Node& node) { newMember(new Node(node.key(), node.value())); });
   }
 };
 

@@ -62,7 +62,7 @@ class Ptr {
   void take() const noexcept {
     if (object_) object_->referencesInc();
   }
-  static void drop(T* object) noexcept(false) {
+  static void drop(T* object) {
     if (object) object->referencesDec();
   }
 

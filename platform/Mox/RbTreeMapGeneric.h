@@ -47,11 +47,6 @@ class RbTreeMapGeneric {
   /// Removes all nodes, one after the other, without recursion.
   void memberDelAll(U8 nextLinkOffset);
 
-  static RbLinks& linksOf(U8 nextLinkOffset, PtrInterface const* node) noexcept {
-    auto* const words = reinterpret_cast<void**>(const_cast<PtrInterface*>(node));
-    return *reinterpret_cast<RbLinks*>(words + nextLinkOffset);
-  }
-
   U32 changes_ = 0;
   U32 count_ = 0;
   Ptr<PtrInterface> root_;

@@ -4,8 +4,9 @@
 //
 //   XpTableManSm 1 src-includes/XpLib/XpTableManSm:212 doCreateBdTables <unknown>: the text
 //
-// which is the facility, the level, file and line of the site, its function, the name of the object
-// that speaks, and the text as the site wrote it, whatever bytes it holds.  One thread at a time.
+// which is the facility, the level, the module's path and the line of the site (the function tells
+// in which of the module's files), its function, the name of the object that speaks, and the text
+// as the site wrote it, whatever bytes it holds.  One thread at a time.
 #pragma once
 
 #include "Mox/String8.h"

@@ -13,7 +13,8 @@
 namespace Kestrel {
 namespace {
 
-/// Registers a module's types when it is made.
+/// Registers a module's types when it is made.  The standard streams come first, for a fault of the
+/// registration is told there; the pair is what the runtime wants to be shown by each module.
 class Initialiser {
  public:
   explicit Initialiser(frame::Module& module) {

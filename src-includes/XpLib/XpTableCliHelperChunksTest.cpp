@@ -121,6 +121,12 @@ TEST(ChunkHashTest, OneAtATimeOverTheBytesInFieldOrder) {
   EXPECT_NE(TableSramChunk(1, 2, 3).hash(), TableSramChunk(3, 2, 1).hash());
 }
 
+// Computed outside of this code.
+TEST(ChunkHashTest, KnownHashes) {
+  EXPECT_EQ(TableSramChunk(1, 2, 3).hash(), 0xF926DA4Fu);
+  EXPECT_EQ(TableTcamChunk(255, 128).hash(), 0x234E280Au);
+}
+
 TEST(ChunkHashTest, ZeroesHashToZero) { EXPECT_EQ(TableSramChunk(0, 0, 0).hash(), 0u); }
 
 TEST(ChunkTextTest, SramChunk) {

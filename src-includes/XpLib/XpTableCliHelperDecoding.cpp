@@ -39,8 +39,8 @@ void addRun(TableMemCollection& memory, U32 poolId, U32 start, U32 blocks) {
   memory.sramChunkIs(chunk, true);
 }
 
-// True, and traced, for a count of 0.
-bool isEmpty(TableMemCollection const& memory, U32 count, int line = __builtin_LINE()) {
+// True for a count of 0, which is traced.
+bool tracedAsEmpty(TableMemCollection const& memory, U32 count, int line = __builtin_LINE()) {
   if (count != 0) return false;
   Mox::traceAt(
       xpTableCliHelper::_defaultTraceHandle(), 7,
@@ -50,7 +50,7 @@ bool isEmpty(TableMemCollection const& memory, U32 count, int line = __builtin_L
 }
 
 void addCopy(TableMemCollection& memory, xpMatchTableContext const& context) {
-  if (isEmpty(memory, context.numDb)) return;
+  if (tracedAsEmpty(memory, context.numDb)) return;
   memory.tcamChunkIs(TableTcamChunk(context.startDb, endOf(context.startDb, context.numDb)), true);
 }
 
@@ -64,20 +64,20 @@ U32 rowsPerWay(xpHashTableContext const& context) {
 }
 
 void addCopy(TableMemCollection& memory, xpHashTableContext const& context) {
-  if (isEmpty(memory, context.numOfEntries)) return;
+  if (tracedAsEmpty(memory, context.numOfEntries)) return;
   U32 const blocksPerWay = rowsPerWay(context) >> rowsLog2;
   for (U32 way = 0; way < context.numOfWays; ++way)
     addRun(memory, context.poolId[way], context.rowBlkStartId[way], blocksPerWay);
 }
 
 void addCopy(TableMemCollection& memory, xpDirectTableContext const& context) {
-  if (isEmpty(memory, context.numOfEntries)) return;
+  if (tracedAsEmpty(memory, context.numOfEntries)) return;
   addRun(memory, context.poolId, context.rowBlkStartId,
          blocksOf(context.numOfEntries, context.entryWidth));
 }
 
 void addCopy(TableMemCollection& memory, xpNhTableContext const& context) {
-  if (isEmpty(memory, context.numEntries)) return;
+  if (tracedAsEmpty(memory, context.numEntries)) return;
   // All 32 bits count as ways, though only 8 pools are looked at.
   U32 const numWays = static_cast<U32>(std::popcount(context.poolBitmap));
   U32 const blocks = blocksOf(context.numEntries / numWays, context.entryWidth);
@@ -102,7 +102,7 @@ void addCopy(TableMemCollection& memory, xpLpmTableContext const& context) {
 }
 
 void addCopy(TableMemCollection& memory, xpIsmeTableContext const& context) {
-  if (isEmpty(memory, context.numOfEntries)) return;
+  if (tracedAsEmpty(memory, context.numOfEntries)) return;
   U32 const tiles = context.numOfEntries >> entriesLog2;
   TableIsmeChunk const chunk(static_cast<U8>(context.ismeNum), static_cast<U8>(context.tileStartId),
                              endOf(context.tileStartId, tiles));
@@ -122,10 +122,15 @@ struct TableType {
   void (*readCopy)(TableMemCollection& memory, XpXdk::TableContextEntry const& entry, U8 copy);
 };
 
+template <class Context>
+constexpr TableType tableType(char const* name) {
+  return {Context::code, name, readCopy<Context>};
+}
+
 constexpr TableType tableTypes[] = {
-    {0, "MATCH", readCopy<xpMatchTableContext>},   {1, "HASH", readCopy<xpHashTableContext>},
-    {2, "DIRECT", readCopy<xpDirectTableContext>}, {6, "LPM", readCopy<xpLpmTableContext>},
-    {7, "ISME", readCopy<xpIsmeTableContext>},     {8, "NH", readCopy<xpNhTableContext>},
+    tableType<xpMatchTableContext>("MATCH"),   tableType<xpHashTableContext>("HASH"),
+    tableType<xpDirectTableContext>("DIRECT"), tableType<xpLpmTableContext>("LPM"),
+    tableType<xpIsmeTableContext>("ISME"),     tableType<xpNhTableContext>("NH"),
 };
 
 TableType const& tableTypeOf(U8 code, char const* signature, int line = __builtin_LINE()) {

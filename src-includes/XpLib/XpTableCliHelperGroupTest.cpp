@@ -111,6 +111,16 @@ TEST(SharedTableGroupTest, HashTakesAllFourBytesLeastSignificantFirst) {
   EXPECT_EQ(group({0x81020304}).hash(), expected.finish());
 }
 
+// Computed outside of this code.
+TEST(SharedTableGroupTest, HashOfOneTable) { EXPECT_EQ(group({0x81020304}).hash(), 0x0624FF04u); }
+
+TEST(SharedTableGroupTest, AssignedGroupHashesAsItsSource) {
+  SharedTableGroup grown;
+  for (U32 id = 0; id < 100; ++id) grown.tableIdIs(id, true);
+  grown = group({1, 2, 3, 4});
+  EXPECT_EQ(grown.hash(), group({1, 2, 3, 4}).hash());
+}
+
 TEST(SharedTableGroupTest, HashIsBlindForValues) {
   SharedTableGroup off;
   off.tableIdIs(7, false);

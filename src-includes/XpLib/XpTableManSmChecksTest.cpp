@@ -55,8 +55,11 @@ class CheckedCallDeathTest : public testing::TestWithParam<Checked> {
 };
 
 TEST_P(CheckedCallDeathTest, OtherStatusEndsTheProcess) {
-  answers(7);
-  expectAbort([&] { rig.bringUp(); }, apiError(GetParam().call, 7, GetParam().signature));
+  // Neighbours of the accepted ones, and numbers whose low byte is one of them.
+  for (S32 status : {7, 8, 10, 41, 43, 265, 298, -9}) {
+    answers(status);
+    expectAbort([&] { rig.bringUp(); }, apiError(GetParam().call, status, GetParam().signature));
+  }
 }
 
 TEST_P(CheckedCallDeathTest, StatusIsASignedNumber) {
@@ -70,7 +73,12 @@ TEST_P(CheckedCallDeathTest, NineAndFortyTwoAreAccepted) {
   auto const accepted = rig.take().size();
   for (S32 status : {9, 42}) {
     answers(status);
+    testing::internal::CaptureStderr();
+    testing::internal::CaptureStdout();
     rig.bringUp();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(rig.status->tableContextEntryCount(), 7u);
     auto lines = rig.take();
     std::erase_if(lines, [](auto const& line) { return line.starts_with("gone "); });
     EXPECT_EQ(lines.size(), accepted) << "status " << status;

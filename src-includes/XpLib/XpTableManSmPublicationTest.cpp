@@ -151,6 +151,16 @@ TEST_F(PublicationTest, EntryKeepsItsFirstName) {
   EXPECT_EQ(rig.lines, Lines());
 }
 
+TEST_F(PublicationTest, RepublishedTableIsWhatItIsNow) {
+  auto hash = numbered<xpHashTableContext>(3);
+  publish(3, hash, 3);
+  auto isme = numbered<xpIsmeTableContext>(1);
+  publish(3, isme, 1);
+  EXPECT_EQ(rig.entry(3)->tableType(), xpIsmeTableContext::code);
+  EXPECT_EQ(rig.entry(3)->tblCopyNum(), 1u);
+  EXPECT_EQ(rig.published<xpIsmeTableContext>(3).numOfEntries, 100u);
+}
+
 TEST_F(PublicationTest, TypeOfAllCopiesIsThatOfTheFirst) {
   auto context = numbered<xpHashTableContext>(2);
   context[1].tableType = 5;

@@ -234,6 +234,42 @@ TEST(TableManSmTest, HoldsOneReferenceOnStatusAndPlan) {
   EXPECT_EQ(rig.lpmTreadCfg->references(), planHeld);
 }
 
+/// Notes in a book that the last reference to its notifier has gone.
+template <class Entity>
+class LastWord : public Entity::NotifieeConst {
+ public:
+  LastWord(Mox::Ptr<Entity> const& entity, char const* word, Lines& book)
+      : word_(word), book_(book) {
+    this->isWeakReferenceIs(true);
+    this->notifierIs(entity);
+    this->isRegisteredNotifieeIs(true);
+  }
+  void onZeroReferences() override {
+    book_.push_back(word_);
+    this->notifierIs(nullptr);
+  }
+
+ private:
+  std::string word_;
+  Lines& book_;
+};
+
+TEST(TableManSmTest, LetsGoOfThePlanAheadOfTheStatus) {
+  Rig rig(bareProfile());
+  Lines book;
+  auto status = chipStatusFactory("own");
+  Mox::Ptr<XpLib::Config::LpmTreadCfg> plan = new XpLib::Config::LpmTreadCfg("plan");
+  Mox::Ptr<LastWord<ChipStatus>> const ofStatus = new LastWord<ChipStatus>(status, "status", book);
+  Mox::Ptr<LastWord<XpLib::Config::LpmTreadCfg>> const ofPlan =
+      new LastWord<XpLib::Config::LpmTreadCfg>(plan, "plan", book);
+  auto sm = tableManSmFactory(0, status, XpXdk::xpDeviceLdePipeMode3, true, plan);
+  status = nullptr;
+  plan = nullptr;
+  EXPECT_EQ(book, Lines());
+  sm = nullptr;
+  EXPECT_EQ(book, (Lines{"plan", "status"}));
+}
+
 TEST(TableManSmTest, NoTreadPlanIsNeededWhereNoLpmTableIsCreated) {
   Rig rig;
   rig.lpmTreadCfg = nullptr;

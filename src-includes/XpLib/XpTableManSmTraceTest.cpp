@@ -3,7 +3,10 @@
 #include "Swiftlog/TraceFile.h"
 #include "XpLib/XpTableManSmRigTest.h"
 #include "XpLib/XpTableManSmTrace.h"
+#include "standin/mox/swiftlog/Layout.h"
 
+#include <cstring>
+#include <map>
 #include <sstream>
 
 namespace Kestrel::xpTableManSm {
@@ -237,6 +240,57 @@ TEST(TableManSmRecordTest, ArgumentsOfAPublication) {
   EXPECT_EQ(records.texts(),
             Lines{"TableManSm::doUpdateTableStatus DeviceId 0 TableId 4294967294 tblCopyNum 0 "
                   "plMgrId 4294967292 tableIdForMgr 4294967293"});
+}
+
+// The types of each site's arguments, by its texts: "[a ]|[ b]" has an argument between two texts.
+std::map<std::string, std::string> argumentTypes(Swiftlog::TraceFile const& file) {
+  std::byte const* at = file.bytes().data();
+  Swiftlog::FileHeader header;
+  std::memcpy(&header, at, sizeof header);
+  at += sizeof header;
+  std::map<std::string, std::string> result;
+  for (U32 i = 0; i < header.descriptorCount; ++i) {
+    Swiftlog::DescriptorHeader descriptor;
+    std::memcpy(&descriptor, at, sizeof descriptor);
+    auto const* item =
+        reinterpret_cast<char const*>(at) + sizeof descriptor + descriptor.fileLength;
+    std::string texts;
+    std::string types;
+    for (U16 items = descriptor.items; items > 0; --items) {
+      char const type = *item++;
+      if (type != 't') {
+        types += type;
+        texts += '|';
+        continue;
+      }
+      U16 length;
+      std::memcpy(&length, item, sizeof length);
+      texts += '[' + std::string(item + sizeof length, length) + ']';
+      item += sizeof length + length;
+    }
+    result[texts] = types;
+    at += descriptor.size;
+  }
+  return result;
+}
+
+TEST(TableManSmRecordTest, ArgumentsHaveTheirTypes) {
+  Rig rig;
+  Swiftlog::TraceFile file;
+  Swiftlog::theTraceFileIs(&file);
+  rig.bringUp();
+  Swiftlog::theTraceFileIs(nullptr);
+  std::map<std::string, std::string> expected = {
+      {"[bool Kestrel::TableManSm::doVerifyOrCreateTables(bool)][ warmRestart ]|", "b"},
+      {"[TableManSm::][doUpdateTableStatus][ DeviceId ]|[ TableId ]|[ tblCopyNum ]|[ plMgrId ]|"
+       "[ tableIdForMgr ]|",
+       "cicii"},
+  };
+  for (char const* name :
+       {"handleInitialized", "doCreateBdTables", "doCreateFdbTable", "doCreateRouteMcTable",
+        "doCreatePimTable", "doCreatePortVlanTable", "doCreateMdtTable", "doCreateControlMacTable"})
+    expected[std::string("[TableManSm::][") + name + "][ DeviceId ]|"] = "c";
+  EXPECT_EQ(argumentTypes(file), expected);
 }
 
 TEST(TableManSmRecordTest, SiteIsDescribedOnce) {

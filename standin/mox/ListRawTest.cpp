@@ -21,7 +21,7 @@ class ListRawTest : public testing::Test {
   Ptr<Member> a = new Member, b = new Member, c = new Member;
 };
 
-TEST_F(ListRawTest, FourWordsStartAtZero) {
+TEST_F(ListRawTest, StartsEmptyWithoutChanges) {
   EXPECT_EQ(list.changes(), 0u);
   EXPECT_EQ(list.count(), 0u);
   EXPECT_TRUE(list.empty());

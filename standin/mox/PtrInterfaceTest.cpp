@@ -120,12 +120,17 @@ TEST(PtrInterfaceTest, AtomicCountsSurviveTwoThreads) {
   EXPECT_EQ(probe->references(), 1u);
 }
 
-TEST(PtrInterfaceTest, TrackerStrikesWhatIsMadeImmortal) {
-  int object = 0;
-  PtrTrack::ptrifNew(&object);
-  std::size_t const tracked = PtrTrack::tracked();
-  PtrTrack::ptrifDel(&object);
-  EXPECT_EQ(PtrTrack::tracked(), tracked - 1);
+TEST(PtrInterfaceTest, WhatIsMadeImmortalIsStruckFromTheTrackerWhileThatIsOn) {
+  for (bool const on : {false, true}) {
+    auto* const type = new MoxType("Tracked", nullptr, nullptr, {});
+    PtrTrack::ptrifNew(type);
+    std::size_t const tracked = PtrTrack::tracked();
+    ptrifTrackOn_ = on;
+    immortal(type);
+    ptrifTrackOn_ = false;
+    EXPECT_EQ(PtrTrack::tracked(), on ? tracked - 1 : tracked);
+    EXPECT_EQ(type->references(), 1u);
+  }
 }
 
 }  // namespace

@@ -12,6 +12,16 @@ using Link = Ptr<PtrInterface>;
 constexpr int left = 0;
 constexpr int right = 1;
 
+RbLinks& linksOf(U8 offset, PtrInterface const* node) noexcept {
+  auto* const words = reinterpret_cast<void**>(const_cast<PtrInterface*>(node));
+  return *reinterpret_cast<RbLinks*>(words + offset);
+}
+
+PtrInterface* outermost(U8 offset, PtrInterface* node, int side) noexcept {
+  while (PtrInterface* const further = linksOf(offset, node).child[side].ptr()) node = further;
+  return node;
+}
+
 // One tree while its shape is changed.  Links move and are never copied, so no count changes.
 class Balancer {
  public:
@@ -39,7 +49,7 @@ class Balancer {
     bool red = isRed(node);
     Link held;
     if (of(node).child[left] && of(node).child[right]) {
-      PtrInterface* const successor = outermost(of(node).child[right].ptr(), left, offset_);
+      PtrInterface* const successor = outermost(offset_, of(node).child[right].ptr(), left);
       red = isRed(successor);
       gap = {of(successor).parent, of(successor).parent == node ? right : left};
       Link heir = lift(successor, right);
@@ -54,15 +64,6 @@ class Balancer {
     return held;
   }
 
-  static PtrInterface* outermost(PtrInterface* node, int side, U8 offset) noexcept {
-    while (PtrInterface* const further = at(node, offset).child[side].ptr()) node = further;
-    return node;
-  }
-  static RbLinks& at(PtrInterface const* node, U8 offset) noexcept {
-    auto* const words = reinterpret_cast<void**>(const_cast<PtrInterface*>(node));
-    return *reinterpret_cast<RbLinks*>(words + offset);
-  }
-
  private:
   // Where a node stands, or stood.
   struct Place {
@@ -70,7 +71,7 @@ class Balancer {
     int side = left;
   };
 
-  RbLinks& of(PtrInterface const* node) const noexcept { return at(node, offset_); }
+  RbLinks& of(PtrInterface const* node) const noexcept { return linksOf(offset_, node); }
   bool isRed(PtrInterface const* node) const noexcept { return node && of(node).red; }
   int sideOf(PtrInterface const* node) const noexcept {
     PtrInterface const* const parent = of(node).parent;
@@ -224,13 +225,12 @@ void RbTreeMapGeneric::memberDelAll(U8 nextLinkOffset) {
 }
 
 PtrInterface* RbTreeMapGeneric::first(U8 nextLinkOffset) const noexcept {
-  return root_ ? Balancer::outermost(root_.ptr(), left, nextLinkOffset) : nullptr;
+  return root_ ? outermost(nextLinkOffset, root_.ptr(), left) : nullptr;
 }
 
 PtrInterface* RbTreeMapGeneric::next(U8 nextLinkOffset, PtrInterface const* node) noexcept {
   RbLinks const& links = linksOf(nextLinkOffset, node);
-  if (links.child[right])
-    return Balancer::outermost(links.child[right].ptr(), left, nextLinkOffset);
+  if (links.child[right]) return outermost(nextLinkOffset, links.child[right].ptr(), left);
   PtrInterface* above = links.parent;
   while (above && linksOf(nextLinkOffset, above).child[right].ptr() == node) {
     node = above;

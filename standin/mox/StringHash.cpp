@@ -1,4 +1,4 @@
-// One-at-a-time, with the way through a common head remembered.
+// One-at-a-time, with the way through a common head remembered (docs/decisions/string-hash.md).
 #include "standin/mox/StringHash.h"
 
 #include <cstring>

@@ -17,12 +17,17 @@ template <class Integer>
 requires std::is_integral_v<Integer>
 void readField(JsonCursor const& cursor, Integer& field) { field = cursor.integer<Integer>(); }
 
-template <class Integer, std::size_t room>
-void readField(JsonCursor const& cursor, Integer (&field)[room]) {
+std::vector<JsonCursor> elementsFor(JsonCursor const& cursor, std::size_t room) {
   auto elements = cursor.elements();
   if (elements.size() > room)
     cursor.refuse(std::to_string(elements.size()) + " elements, and room for " +
                   std::to_string(room));
+  return elements;
+}
+
+template <class Integer, std::size_t room>
+void readField(JsonCursor const& cursor, Integer (&field)[room]) {
+  auto const elements = elementsFor(cursor, room);
   std::fill(std::begin(field), std::end(field), 0);
   for (std::size_t i = 0; i < elements.size(); ++i) readField(elements[i], field[i]);
 }
@@ -59,8 +64,9 @@ void readField(JsonCursor const& cursor, xpLpmPrefixTable (&tables)[32]) {
 }  // namespace
 
 void readContexts(JsonCursor const& cursor, Contexts& contexts) {
+  constexpr std::size_t mostCopies = 256;  // a copy's number is a byte
   auto readAll = [&cursor](auto& records) {
-    for (JsonCursor const& element : cursor.elements()) {
+    for (JsonCursor const& element : elementsFor(cursor, mostCopies)) {
       auto& context = records.emplace_back();
       context.first = 0;
       readFields(element, context);

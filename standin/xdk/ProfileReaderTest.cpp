@@ -231,6 +231,17 @@ TEST(ProfileReaderTest, FaultsOfTables) {
   for (auto [text, fault] : faults) EXPECT_EQ(faultOf(text), fault);
 }
 
+TEST(ProfileReaderTest, CopiesAreNumberedByAByte) {
+  std::string contexts = "{}";
+  for (int i = 1; i < 256; ++i) contexts += ",{}";
+  auto const profile = [](std::string const& list) {
+    return R"({"tables": {"7": {"contexts": [)" + list + "]}}}";
+  };
+  EXPECT_EQ(faultOf(profile(contexts)), "none");
+  EXPECT_EQ(faultOf(profile(contexts + ",{}")),
+            "lab.json: /tables/7/contexts: 257 elements, and room for 256");
+}
+
 TEST(ProfileReaderTest, FaultsOfContexts) {
   struct {
     char const* type;

@@ -16,8 +16,9 @@ U32 indexOf(Manager const& manager, std::string_view digits) {
   if (manager.isSingleton())
     throw Fault(std::string(manager.name) + " is a singleton, without index");
   U32 index = 0;
-  auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), index);
-  bool isNumber = error == std::errc() && end == digits.data() + digits.size();
+  auto const error = std::from_chars(digits.data(), digits.data() + digits.size(), index).ec;
+  // One spelling for one index: two rules of a profile don't mean the same unseen.
+  bool isNumber = error == std::errc() && std::to_string(index) == digits;
   if (!isNumber || index < manager.firstIndex || index > manager.lastIndex)
     throw Fault(std::string(manager.name) + " has no index " + quoted(digits));
   return index;

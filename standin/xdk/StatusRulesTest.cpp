@@ -63,6 +63,13 @@ TEST(StatusRulesTest, KeyWithIndexGoesFirst) {
   EXPECT_EQ(rules.next(lpm(0), Call::addTable), 1);
 }
 
+TEST(StatusRulesTest, IndexHasOneSpelling) {
+  for (char const* index : {"00", "01", "+0", " 0", "0x0", ""})
+    EXPECT_THROW(operationKey(std::string("xpIpRouteLpmMgr[") + index + "]::addDevice"),
+                 std::invalid_argument)
+        << index;
+}
+
 TEST(StatusRulesTest, NewStatusesReplaceTheOldAndCountAnew) {
   StatusRules rules;
   rules.statusIs(operationKey("xpIpRouteLpmMgr::addDevice"), {1, 2});

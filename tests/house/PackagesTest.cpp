@@ -34,10 +34,10 @@ TEST_F(PackagesTest, NothingMissingDoesNothing) {
 
 TEST_F(PackagesTest, RootInstallsWhatIsMissing) {
   database("installed|clang-format-14, \n");
-  EXPECT_EQ(need("check clang").output,
-            "Installing: pkg-config clang\n"
+  EXPECT_EQ(need("check clang 32").output,
+            "Installing: clang g++-multilib\n"
             "apt-get update -q\n"
-            "apt-get install -y --no-install-recommends pkg-config clang\n");
+            "apt-get install -y --no-install-recommends clang g++-multilib\n");
 }
 
 TEST_F(PackagesTest, AnybodyElseGetsTheCommand) {
@@ -51,8 +51,8 @@ TEST_F(PackagesTest, AnybodyElseGetsTheCommand) {
 }
 
 TEST_F(PackagesTest, AProvidedPackageCounts) {
-  database("installed|clang-format-14, \ninstalled|pkgconf, pkg-config (= 0.29)\n");
-  EXPECT_EQ(need("check").output, "");
+  database("installed|clang-16, clang (= 16.0)\n");
+  EXPECT_EQ(need("clang").output, "");
 }
 
 TEST_F(PackagesTest, ARemovedPackageIsMissing) {

@@ -97,8 +97,10 @@ TEST(RegistrationTest, RootsAreMadeByFactoryAndByDescriptor) {
   EXPECT_FALSE(Kestrel::FecCounters::_fwkType()->newEntity("fec", nullptr));
 }
 
-TEST(RegistrationTest, SecondTraceHandleIsMadeAtLoad) {
+TEST(RegistrationTest, OfTheTraceHandlesTheSdksAloneIsMadeAtLoad) {
   EXPECT_TRUE(Mox::traceFacility("XpXdkApiMacros"));
+  EXPECT_FALSE(Mox::traceFacility("XpTableManSm"));
+  EXPECT_FALSE(Mox::traceFacility("XpTableCliHelper"));
 }
 
 TEST(RegistrationTest, InheritedAttributesComeFirst) {

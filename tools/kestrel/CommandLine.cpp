@@ -125,7 +125,7 @@ std::string fullName(CLI::App const& command) {
 
 // One line, whatever bytes the user's words hold.
 void complain(std::string const& complaint) {
-  std::cerr << "kestrel: error: " << xdksim::printable(complaint, 2000) << '\n';
+  std::cerr << "kestrel: error: " << xdksim::printable(complaint, complaint.size()) << '\n';
 }
 
 /// What is wrong, where the parser's own words aren't the best.
@@ -137,7 +137,12 @@ std::string faultOf(CLI::App const& app, CLI::ParseError const& fault) {
                             named.get_require_subcommand_min() > 0;
   if (needsCommand && unknown.empty()) return command + " needs a command";
   if (needsCommand) return command + " has no command " + quoted(unknown.front());
-  if (!unknown.empty()) return command + " takes no " + quoted(unknown.front());
+  if (!unknown.empty()) {
+    std::string const& word = unknown.front();
+    bool const misplaced = named.get_option_no_throw(word) != nullptr;
+    return misplaced ? quoted(word) + " must stand behind " + command
+                     : command + " takes no " + quoted(word);
+  }
   return fault.what();
 }
 

@@ -69,6 +69,7 @@ class Derived::NotifieeConst : public Every::NotifieeConst {
   static Mox::NotifieeLevel const moxLevel_;
 
   virtual void onExtra() {}
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onMarks(U8) {}
   virtual void onMarksmoxImmediate() {}
   virtual void onMarks() {}

@@ -284,26 +284,33 @@ class Every::NotifieeConst : public Mox::Entity::NotifieeConst {
   virtual void onMood() {}
   virtual void onBounded() {}
   virtual void onHits() {}
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onBytes(U8) {}
   virtual void onBytesmoxImmediate() {}
   virtual void onBytes() {}
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onWords(U32) {}
   virtual void onWordsmoxImmediate() {}
   virtual void onWords() {}
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onTexts(Mox::String8) {}
   virtual void onTextsmoxImmediate() {}
   virtual void onTexts() {}
   virtual void onBuddy() {}
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onKnown(Mox::Name) {}
   virtual void onKnownmoxImmediate() {}
   virtual void onKnown() {}
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onSeats(U8) {}
   virtual void onSeatsmoxImmediate() {}
   virtual void onSeats() {}
   virtual void onBest() {}
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onLeaves(Mox::Name) {}
   virtual void onLeavesmoxImmediate() {}
   virtual void onLeaves() {}
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onLanes(U8) {}
   virtual void onLanesmoxImmediate() {}
   virtual void onLanes() {}

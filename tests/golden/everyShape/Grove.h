@@ -139,14 +139,17 @@ class Grove::NotifieeConst : public Mox::Entity::NotifieeConst {
 
   static Mox::NotifieeLevel const moxLevel_;
 
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onTree(Mox::Name) {}
   virtual void onTreemoxImmediate() {}
   virtual void onTree() {}
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onRow(U8) {}
   virtual void onRowmoxImmediate() {}
   virtual void onRow() {}
   virtual void onBrook() {}
   virtual void onLevel() {}
+  /// Told of each change under a key.  The two without a key are the runtime's: no mutator calls them.
   virtual void onByLevel(Level) {}
   virtual void onByLevelmoxImmediate() {}
   virtual void onByLevel() {}
