@@ -48,6 +48,10 @@ class Checker {
       if (range != type.options.end() && !boundsIn(range->second.text))
         diagnostics_.error(range->second.at,
                            "expected a range such as 0..127, found " + quoted(range->second.text));
+      auto wire = type.options.find("wire");
+      if (wire != type.options.end() && !hasWord("1 2 4 8", wire->second.text))
+        diagnostics_.error(wire->second.at,
+                           "expected 1, 2, 4 or 8 bytes, found " + quoted(wire->second.text));
     }
   }
 

@@ -54,6 +54,12 @@ TEST(CheckerTest, ATypeIsDeclaredOnce) {
   EXPECT_EQ(errors("enum U8\n0 a\nend\n"), "s:2:6: error: \"U8\" is declared twice\n");
 }
 
+TEST(CheckerTest, AWireSizeIsThatOfAnInteger) {
+  EXPECT_EQ(errors("extern primitive T wire 4\n"), "");
+  EXPECT_EQ(errors("extern primitive T wire 3\n"),
+            "s:2:25: error: expected 1, 2, 4 or 8 bytes, found \"3\"\n");
+}
+
 TEST(CheckerTest, ATypeIsDefinedInOneFile) {
   Diagnostics diagnostics;
   check(story::builtin(),

@@ -15,8 +15,11 @@ struct CommandLine {
   bool version = false;
   bool list = false;
   bool moxType = false;
+  bool reference = false;
   std::string out;
   std::string templates;
+  std::string lock;       ///< compared with
+  std::string writeLock;  ///< written
   std::vector<std::string> schemas;
 };
 

@@ -24,9 +24,20 @@ class Generator {
     folder("module");
   }
 
-  void set(Scope run) {
+  void set(Scope const& run) {
     stack_ = {&run};
     folder("set");
+  }
+
+  // Pages are laid out by their templates alone.
+  void reference(Scope const& run) {
+    laidOut_ = false;
+    for (Scope const& schema : run.lists.at("openSchemas")) {
+      stack_ = {&run, &schema};
+      folder("reference/module");
+    }
+    stack_ = {&run};
+    folder("reference/set");
   }
 
   std::vector<Output> outputs() { return std::move(outputs_); }
@@ -45,11 +56,13 @@ class Generator {
     std::string path = renderer.text(file.output);
     if (!paths_.insert(path).second)
       throw TemplateError{file.at, "\"" + path + "\" would be written twice"};
-    outputs_.push_back({path, pathsOnly_ ? "" : layout(renderer.text(file.body))});
+    std::string const text = pathsOnly_ ? "" : renderer.text(file.body);
+    outputs_.push_back({path, laidOut_ ? layout(text) : text});
   }
 
   Library const& library_;
   bool pathsOnly_;
+  bool laidOut_ = true;
   std::vector<Scope const*> stack_;
   std::vector<Output> outputs_;
   std::set<std::string> paths_;
@@ -62,8 +75,13 @@ std::vector<Output> generate(Library const& library, std::vector<Schema> const& 
   std::vector<Scope> views;
   for (Schema const& schema : schemas) views.push_back(viewOf(library.builtin, schema));
   Generator generator(library, wanted.pathsOnly);
+  Scope const run = viewOf(views);
+  if (wanted.reference) {
+    generator.reference(run);
+    return generator.outputs();
+  }
   for (Scope const& view : views) generator.schema(view);
-  if (wanted.set) generator.set(viewOf(views));
+  if (wanted.set) generator.set(run);
   return generator.outputs();
 }
 

@@ -19,6 +19,7 @@ struct Output {
 /// What of the outputs is wanted.
 struct Wanted {
   bool set = false;        ///< also those of the run as a whole, such as the list of all types
+  bool reference = false;  ///< the pages of the reference, in place of all others
   bool pathsOnly = false;  ///< leave the texts empty
 };
 

@@ -1,8 +1,9 @@
 // What the real templates make of the schema that uses every shape, compared with the texts in
-// tests/golden/.  After a deliberate change of templates: run the compiler over
-// tests/everyShape.schema with `--out tests/golden --mox-type`, and read the difference.
+// tests/golden/.  After a deliberate change of templates: build the target `golden`, and read the
+// difference.
 #include "tools/schemac/Files.h"
 #include "tools/schemac/Generator.h"
+#include "tools/schemac/Lock.h"
 #include "tools/schemac/Parser.h"
 #include "tools/schemac/Vocabulary.h"
 
@@ -27,9 +28,15 @@ Schema everyShape() {
   return schema;
 }
 
+// The classes, the reference, and the lock file.
 std::vector<Output> generated() {
   Library const library = loadLibrary(root / "tools" / "schemac" / "templates");
-  return generate(library, {everyShape()}, {.set = true});
+  std::vector<Schema> const schemas = {everyShape()};
+  auto result = generate(library, schemas, {.set = true});
+  for (Output const& page : generate(library, schemas, {.reference = true}))
+    result.push_back({"reference" / page.path, page.text});
+  result.push_back({"schema.lock", lockText(library.builtin, schemas)});
+  return result;
 }
 
 TEST(GoldenTest, EachFileIsAsItWas) {

@@ -144,9 +144,10 @@ FileTemplate parseFileTemplate(std::string_view source, Position at) {
 Library loadLibrary(fs::path const& folder) {
   Library result;
   result.builtin = builtinSchema(folder / "builtin.schema");
-  for (char const* kind : {"value", "enum", "entity", "object", "module", "set"})
-    for (fs::path const& path : templatesIn(folder / kind))
-      result.files[kind].push_back(parseFileTemplate(readOrThrow(path), {path.string(), 1, 1}));
+  for (char const* name :
+       {"value", "enum", "entity", "object", "module", "set", "reference/module", "reference/set"})
+    for (fs::path const& path : templatesIn(folder / name))
+      result.files[name].push_back(parseFileTemplate(readOrThrow(path), {path.string(), 1, 1}));
   for (fs::path const& path : templatesIn(folder / "parts"))
     addParts(result.shapes[path.stem().string()], readOrThrow(path), {path.string(), 1, 1});
   for (auto const& [name, shape] : result.shapes)

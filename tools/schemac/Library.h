@@ -27,8 +27,10 @@ struct PartSet {
 };
 
 /// All templates: `builtin.schema`; `<kind>/*.tmpl`, one for each output file of a type of that
-/// kind, and in the same way `module/` for each schema and `set/` for a run of several; and
-/// `parts/**/<shape>.tmpl`, the parts of a shape, which may be spread over several files.
+/// kind, and in the same way `module/` for each schema and `set/` for a run of several;
+/// `reference/module/` for each schema that isn't closed and `reference/set/` for a run, for the
+/// pages of the reference; and `parts/**/<shape>.tmpl`, the parts of a shape, which may be spread
+/// over several files.
 struct Library {
   Schema builtin;
   std::map<std::string, std::vector<FileTemplate>> files;  ///< by folder

@@ -1,6 +1,8 @@
 // The names that templates see, made from rows, arguments and type uses.
 #include "tools/schemac/RowView.h"
 
+#include "tools/schemac/Markdown.h"
+
 #include <algorithm>
 
 namespace schemac {
@@ -46,9 +48,12 @@ void addOptions(Scope& scope, std::string_view place, Options const& given) {
 
 void addDoc(Scope& scope, std::vector<std::string> const& doc) {
   auto& lines = scope.lists["doc"];
-  for (std::string const& line : doc) {
-    lines.emplace_back().texts["line"] = line;
-    lines.back().texts["spaced"] = line.empty() ? "" : " " + line;
+  auto const markdown = markdownLines(doc);
+  for (std::size_t i = 0; i < doc.size(); ++i) {
+    auto& texts = lines.emplace_back().texts;
+    texts["line"] = doc[i];
+    texts["spaced"] = doc[i].empty() ? "" : " " + doc[i];
+    texts["markdown"] = markdown[i];
   }
 }
 
@@ -90,6 +95,7 @@ Scope Names::rowScope(Type const& type, Row const& row) const {
   if (auto use = keyType(type, row)) key.push_back(useScope(type, *use));
   scope.texts["by"] = row.by ? row.by->text : "";
   scope.texts["default"] = defaultText(type, row);
+  scope.texts["defaultCode"] = markdownCode(scope.texts["default"]);
   addRange(scope, row);
   auto& args = scope.lists["args"];
   auto& others = scope.lists["otherArgs"];
@@ -137,6 +143,7 @@ Scope Names::symbolScope(Type const& type, Symbol const& symbol) const {
   scope.texts[selfName] = near ? symbol.shortName : spelled;
   scope.texts["full"] = spelled;
   scope.texts["short"] = symbol.shortName;
+  scope.texts["anchor"] = markdownAnchor(symbol.name);
   scope.texts["typeSpace"] = symbol.space;
   scope.texts["header"] = symbol.header;
   scope.texts["text"] = symbol.external ? optionText(given, "text") : "";

@@ -5,6 +5,7 @@
 #include "tools/schemac/CommandLine.h"
 #include "tools/schemac/Files.h"
 #include "tools/schemac/Generator.h"
+#include "tools/schemac/Lock.h"
 #include "tools/schemac/Parser.h"
 
 namespace schemac {
@@ -43,19 +44,41 @@ int write(std::vector<Output> const& outputs, std::string const& folder, std::os
   return result;
 }
 
+// What the pages show is compiled apart, so a schema is sound or faulty by itself there.
+void check(CommandLine const& asked, Library const& library, std::vector<Schema> const& schemas,
+           Diagnostics& diagnostics) {
+  if (!asked.reference) return check(library.builtin, schemas, diagnostics);
+  for (Schema const& schema : schemas) check(library.builtin, {schema}, diagnostics);
+}
+
+void compareLock(std::string const& path, Library const& library,
+                 std::vector<Schema> const& schemas, Diagnostics& diagnostics) {
+  if (auto text = readFile(path))
+    checkLock(library.builtin, schemas, path, *text, diagnostics);
+  else
+    diagnostics.error({path, 1, 1}, "can't read this file");
+}
+
+int make(CommandLine const& asked, Library const& library, std::vector<Schema> const& schemas,
+         std::ostream& out, std::ostream& err) {
+  if (!asked.writeLock.empty())
+    return write({{asked.writeLock, lockText(library.builtin, schemas)}}, "", err);
+  auto outputs = generate(library, schemas, {asked.moxType, asked.reference, asked.list});
+  if (!asked.list) return write(outputs, asked.out, err);
+  print(outputs, asked.out, out);
+  return done;
+}
+
 int compile(CommandLine const& asked, std::ostream& out, std::ostream& err) {
   Library const library = loadLibrary(asked.templates);
   Diagnostics diagnostics;
   std::vector<Schema> const schemas = readSchemas(asked.schemas, diagnostics);
-  if (!diagnostics.failed()) check(library.builtin, schemas, diagnostics);
-  if (diagnostics.failed()) {
-    err << diagnostics.text();
-    return faulty;
-  }
-  auto outputs = generate(library, schemas, {asked.moxType, asked.list});
-  if (!asked.list) return write(outputs, asked.out, err);
-  print(outputs, asked.out, out);
-  return done;
+  if (!diagnostics.failed()) check(asked, library, schemas, diagnostics);
+  if (!diagnostics.failed() && !asked.lock.empty() && !asked.list)
+    compareLock(asked.lock, library, schemas, diagnostics);
+  if (!diagnostics.failed()) return make(asked, library, schemas, out, err);
+  err << diagnostics.text();
+  return faulty;
 }
 
 }  // namespace

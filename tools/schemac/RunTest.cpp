@@ -129,6 +129,58 @@ TEST_F(RunTest, NoFileIsWrittenTwice) {
                             ":1:1: error: \"same\" would be written twice\n");
 }
 
+TEST_F(RunTest, ReferenceMakesPagesInPlaceOfClasses) {
+  file("templates/reference/module/Page.tmpl", "@output $module$.md\n$module$\n\n\n");
+  file("templates/reference/set/All.tmpl",
+       "@output all.md\n$each openSchemas$+$module$$end$$each closedSchemas$-$module$$end$\n");
+  file("b.schema", "closed\nmodule B\nentity Z\nend\n");
+  EXPECT_EQ(compile({"a.schema", "b.schema"}, {"--reference", "--list"}), 0);
+  EXPECT_EQ(out_.str(), path("out/A.md").string() + "\n" + path("out/all.md").string() + "\n");
+  EXPECT_EQ(compile({"a.schema", "b.schema"}, {"--reference"}), 0);
+  EXPECT_EQ(content("out/A.md"), "A\n\n\n");
+  EXPECT_EQ(content("out/all.md"), "+A-B\n");
+  EXPECT_FALSE(fs::exists(path("out/N")));
+}
+
+// `B` is made without a look at `A` elsewhere, so their pages may show names that would meet.
+TEST_F(RunTest, APageShowsSchemasThatAreCompiledApart) {
+  file("a.schema", "module A\nentity Y\n258 scalar x U8\nend\n");
+  file("b.schema",
+       "module B\nextern entity Y header \"Y.h\"\nentity Z : Y\n386 scalar x U8\nend\n");
+  EXPECT_EQ(compile({"a.schema", "b.schema"}), 1);
+  EXPECT_EQ(compile({"a.schema", "b.schema"}, {"--reference"}), 0);
+}
+
+TEST_F(RunTest, TheLockFileIsWrittenAlone) {
+  EXPECT_EQ(run({"--write-lock", path("lock"), "--templates", path("templates"), path("a.schema")}),
+            0);
+  EXPECT_NE(content("lock").find("\nmodule A\nN::A::X entity\nN::A::Y entity\n"),
+            std::string::npos);
+  EXPECT_FALSE(fs::exists(path("out")));
+}
+
+TEST_F(RunTest, NothingIsMadeOfSchemasOtherThanTheLockFile) {
+  std::string const lock = path("lock").string();
+  run({"--write-lock", lock, "--templates", path("templates"), path("a.schema")});
+  EXPECT_EQ(compile({"a.schema"}, {"--lock", lock}), 0);
+  fs::remove_all(path("out"));
+  file("a.schema", "module A\nnamespace N::A\nentity X\n258 scalar x U8\nend\nentity Y\nend\n");
+  EXPECT_EQ(compile({"a.schema"}, {"--lock", lock}), 1);
+  EXPECT_NE(err_.str().find(path("a.schema").string() +
+                            ":4:1: error: \"N::A::X 258 x scalar U8 variable\" is new\n"),
+            std::string::npos);
+  EXPECT_FALSE(fs::exists(path("out")));
+}
+
+TEST_F(RunTest, PathsAreListedWhateverIsLocked) {
+  EXPECT_EQ(compile({"b.schema"}, {"--list", "--lock", path("none")}), 0);
+}
+
+TEST_F(RunTest, ALockFileMustBeReadable) {
+  EXPECT_EQ(compile({"b.schema"}, {"--lock", path("none")}), 1);
+  EXPECT_EQ(err_.str(), path("none").string() + ":1:1: error: can't read this file\n");
+}
+
 TEST_F(RunTest, HelpAndVersionGoToStandardOutput) {
   EXPECT_EQ(run({"--help"}), 0);
   EXPECT_EQ(out_.str(), usage);
@@ -148,6 +200,15 @@ TEST_F(RunTest, WrongUsageSaysWhatIsWrong) {
   says({"--out"}, "\"--out\" needs a folder");
   says({"--templates", ""}, "\"--templates\" needs a folder");
   says({"--fast"}, "unknown option \"--fast\"");
+  says({"--lock"}, "\"--lock\" needs a file");
+  for (std::string const option : {"--list", "--mox-type", "--reference"})
+    says({"--write-lock", "a", option},
+         "\"--write-lock\" takes no other option but \"--templates\"");
+  says({"--write-lock", "a"}, "\"--templates\" is missing");
+  says({"--reference", "--mox-type"},
+       "\"--reference\" takes neither \"--mox-type\" nor \"--lock\"");
+  says({"--reference", "--lock", "a"},
+       "\"--reference\" takes neither \"--mox-type\" nor \"--lock\"");
   says({"a", "a"}, "\"a\" is named twice");
 }
 

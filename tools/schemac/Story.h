@@ -13,9 +13,9 @@ namespace schemac::story {
 inline Schema builtin() {
   Diagnostics diagnostics;
   return parse("builtin",
-               "extern primitive bool zero false\n"
-               "extern primitive U8 zero 0 field u8 integer range 0..255\n"
-               "extern primitive U32 zero 0 field u32 integer range 0..4294967295\n"
+               "extern primitive bool zero false wire 1\n"
+               "extern primitive U8 zero 0 wire 1 field u8 integer range 0..255\n"
+               "extern primitive U32 zero 0 wire 4 field u32 integer range 0..4294967295\n"
                "extern primitive double\n"
                "extern value Mox::Name byReference\n",
                diagnostics);

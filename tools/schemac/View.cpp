@@ -1,6 +1,7 @@
 // The names that templates see, made from schemas: whole schemas and their types.
 #include "tools/schemac/View.h"
 
+#include "tools/schemac/Markdown.h"
 #include "tools/schemac/RowView.h"
 
 #include <algorithm>
@@ -121,6 +122,8 @@ Scope typeScope(Names const& names, Type const& type) {
   scope.texts["class"] = uncapitalised(type.name);
   scope.texts["owner"] = nameInTags(type);
   scope.texts["fullName"] = qualified(type.space, type.name);
+  scope.texts["anchor"] = markdownAnchor(scope.texts["fullName"]);
+  scope.texts["kind"] = kindName(type.kind);
   scope.texts["space"] = type.space;
   scope.texts["path"] = outputPath(type.space, type.name);
   scope.texts["header"] = scope.texts["path"] + ".h";
@@ -193,6 +196,10 @@ Scope viewOf(Schema const& builtin, Schema const& schema) {
 
 Scope viewOf(std::vector<Scope> const& schemas) {
   Scope scope;
+  for (char const* list : {"openSchemas", "closedSchemas"}) scope.lists[list];
+  for (Scope const& schema : schemas)
+    scope.lists[schema.texts.at("closed").empty() ? "openSchemas" : "closedSchemas"].push_back(
+        schema);
   auto& names = scope.lists["typeNames"];
   for (Scope const& schema : schemas)
     for (Scope const& type : schema.lists.at("reversedTypes"))

@@ -118,6 +118,7 @@ constexpr Option optionTable[] = {
     {"range", "extern", Option::Takes::text},
     {"zero", "extern", Option::Takes::text},
     {"field", "extern", Option::Takes::text},
+    {"wire", "extern", Option::Takes::text},
     {"byReference", "extern value"},
     {"key", "entity", Option::Takes::word},
     {"root", "entity object"},
