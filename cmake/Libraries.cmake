@@ -26,10 +26,13 @@ if(KESTREL_STANDIN)
 endif()
 
 # The modules in the order in which they are registered, and named in the file.
-kestrel_generate(generated NAME KestrelTypes MOX_TYPE SCHEMAS
+set(kestrel_schemas
   "${PROJECT_SOURCE_DIR}/hwmodel/Kestrel.schema"
   "${PROJECT_SOURCE_DIR}/src-includes/XpLib/XpTableManSm.schema"
   "${PROJECT_SOURCE_DIR}/src-includes/XpLib/XpTableCliHelper.schema")
+set(kestrel_lock "${PROJECT_SOURCE_DIR}/hwmodel/schema.lock")
+kestrel_generate(generated NAME KestrelTypes MOX_TYPE
+  SCHEMAS ${kestrel_schemas} LOCK "${kestrel_lock}")
 kestrel_sources(sources hwmodel src-includes)
 kestrel_library(KestrelTypes SHARED
   SOURCES ${generated} ${sources} LINK PlatformModels Mox Xdk LINK_OWN engines)

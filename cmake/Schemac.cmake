@@ -59,9 +59,9 @@ endfunction()
 
 # Generates code from the schemas SCHEMAS and those below FOLDERS, and sets `out` to the sources
 # among the files.  INTO names the include root that they go to; with MOX_TYPE the table of type
-# names is generated too.
+# names is generated too.  Nothing is generated from schemas that say something else than LOCK.
 function(kestrel_generate out)
-  cmake_parse_arguments(arg "MOX_TYPE" "NAME;INTO" "FOLDERS;SCHEMAS" ${ARGN})
+  cmake_parse_arguments(arg "MOX_TYPE" "NAME;INTO;LOCK" "FOLDERS;SCHEMAS" ${ARGN})
   set(${out} "" PARENT_SCOPE)
   set(schemas ${arg_SCHEMAS})
   foreach(folder IN LISTS arg_FOLDERS)
@@ -78,6 +78,9 @@ function(kestrel_generate out)
   set(options --out "${into}" --templates "${schemac_templates}")
   if(arg_MOX_TYPE)
     list(APPEND options --mox-type)
+  endif()
+  if(arg_LOCK)
+    list(APPEND options --lock "${arg_LOCK}")
   endif()
   set_property(DIRECTORY "${PROJECT_SOURCE_DIR}" APPEND PROPERTY
     CMAKE_CONFIGURE_DEPENDS ${schemas} ${schemac_sources} ${schemac_template_files})
@@ -100,7 +103,7 @@ function(kestrel_generate out)
   add_custom_command(OUTPUT "${stamp}" BYPRODUCTS ${files}
     COMMAND "${schemac_program}" ${options} ${schemas}
     COMMAND "${CMAKE_COMMAND}" -E touch "${stamp}"
-    DEPENDS ${schemas} ${schemac_template_files} "${schemac_program}"
+    DEPENDS ${schemas} ${schemac_template_files} "${schemac_program}" ${arg_LOCK}
     COMMENT "Generating ${arg_NAME}" VERBATIM)
 
   set(headers ${files})
