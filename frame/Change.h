@@ -24,15 +24,28 @@ void notify(typename A::Owner& owner) {
   deliver<>(list, A::id, A::level, static_cast<Hook<>>(A::hook));
 }
 
-/// Tells the notifiees that the element of attribute `A` under `key` has changed.
+/// Tells the notifiees that the element of attribute `A` under `key` has changed.  They hear of
+/// that key whatever becomes of the caller's variable meanwhile.
 template <EntityAttribute A>
 void notifyKey(typename A::Owner& owner, typename A::Key const& key) {
   auto const& list = owner.moxNotifiees();
   if (list.empty()) [[likely]]
     return;
   using Key = typename A::Key;
-  deliver<Key>(list, A::id, A::level, static_cast<Hook<Key>>(A::hook), key);
+  Key const changed = key;
+  deliver<Key>(list, A::id, A::level, static_cast<Hook<Key>>(A::hook), changed);
 }
+
+/// Holds an owner for a step that goes on behind a delivery: an observer may have let go of the
+/// last reference.  An owner that nobody holds, as in its own constructor and destructor, isn't
+/// held here either: it would end with the step.
+class Held {
+ public:
+  explicit Held(Mox::Entity& owner) : owner_(owner.references() > 0 ? &owner : nullptr) {}
+
+ private:
+  Mox::Ptr<Mox::Entity> owner_;
+};
 
 /// The step behind a change of a scalar.
 template <EntityAttribute A>

@@ -74,21 +74,61 @@ TEST(DeliverTest, ObserverThatOnlyTheSnapshotHoldsIsPassedOver) {
   EXPECT_EQ(stage.change(), "a c ");
 }
 
+/// A weak observer that registers in its constructor, is held by nobody, and so ends with the first
+/// delivery.
+class Orphan : public PlainListener {
+ public:
+  Orphan(Mox::Ptr<everyShape::Every> const& entity, std::string& book) : book_(book) {
+    isWeakReferenceIs(true);
+    notifierIs(entity);
+    isRegisteredNotifieeIs(true);
+  }
+  ~Orphan() override { book_ += "end "; }
+  void onLevel() override { book_ += "orphan "; }
+
+ private:
+  std::string& book_;
+};
+
 TEST(DeliverTest, FirstObserverIsCalledEvenIfNobodyHoldsIt) {
   Stage stage;
-  Mox::Ptr<PlainListener> first = new PlainListener;
-  watch(first, stage.entity);
-  std::string heard;
-  first->then = [&] { heard += "first"; };
-  auto* const raw = first.ptr();
-  raw->isWeakReferenceIs(true);
-  // Only the list knows it from here on, which owns no reference.
-  raw->referencesInc();
-  first = nullptr;
-  stage.change();
-  EXPECT_EQ(heard, "first");
-  raw->notifierIs(nullptr);
-  raw->referencesDec();
+  new Orphan(stage.entity, stage.book);
+  EXPECT_EQ(stage.change(), "orphan end ");
+}
+
+TEST(DeliverTest, ObserverIsReleasedAheadOfTheNextHook) {
+  Stage stage;
+  new Orphan(stage.entity, stage.book);
+  stage.join("second");
+  EXPECT_EQ(stage.change(), "orphan end second ");
+}
+
+TEST(DeliverTest, SeveralInARowThatOnlyTheSnapshotHoldsArePassedOver) {
+  Stage stage;
+  auto& first = stage.join("a");
+  for (char const* name : {"b", "c", "d", "e"}) stage.join(name);
+  first.then = [&] { stage.actors.erase(stage.actors.begin() + 1, stage.actors.begin() + 4); };
+  EXPECT_EQ(stage.change(), "e ");
+}
+
+TEST(DeliverTest, AdapterThatRegistersLastIsCalledFirst) {
+  class Adapter : public Mox::Entity::MoxNboAttrLogSa {};
+  class Forwarder : public PlainListener {
+   public:
+    Mox::Ptr<Mox::PtrInterface::NotifieeConst const> moxReactor() const override {
+      return adapter_;
+    }
+
+   private:
+    Mox::Ptr<Adapter> adapter_ = new Adapter;
+  };
+  Stage stage;
+  stage.join("a");
+  stage.join("b");
+  Mox::Ptr<Forwarder> const forwarder = new Forwarder;
+  forwarder->then = [&] { stage.book += "log "; };
+  watch(forwarder, stage.entity);
+  EXPECT_EQ(stage.change(), "log a b ");
 }
 
 TEST(DeliverTest, ObserverThatRegistersMeanwhileHearsOfTheNextChange) {

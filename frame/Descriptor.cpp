@@ -23,7 +23,8 @@ void setKind(Mox::MoxType& type, TypeKind kind) {
 
 void inheritAttributes(Mox::IntrospectionReactor& reactor, Mox::MoxType& type) {
   if (!type.base()) return;
-  for (auto const& attribute : type.base()->attributeQ()) {
+  for (auto const& entry : type.base()->attributeQ()) {
+    auto const& attribute = entry.value();
     type.attributeQEnq(attribute);
     reactor.handleAttr(attribute);
     reactor.handleAttrContextExit();

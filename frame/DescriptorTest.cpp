@@ -114,8 +114,8 @@ TEST(DescriptorTest, DerivedTypeHasTheBasesAttributesFirst) {
   auto const* derived = everyShape::Derived::_fwkType();
   auto const* every = everyShape::Every::_fwkType();
   EXPECT_EQ(derived->base(), every);
-  ASSERT_GT(derived->attributeQ().size(), every->attributeQ().size());
-  EXPECT_EQ(derived->attributeQ().front(), every->attributeQ().front());
+  ASSERT_GT(derived->attributeQ().count(), every->attributeQ().count());
+  EXPECT_EQ(derived->attributeQ().head()->value(), every->attributeQ().head()->value());
   EXPECT_EQ(derived->attributeById(259)->name(), Mox::Name("level"));
   EXPECT_EQ(derived->attributeById(386)->name(), Mox::Name("extra"));
   EXPECT_FALSE(derived->attr("level")) << "it is the base's";
@@ -134,6 +134,27 @@ TEST(DescriptorTest, RootsCanBeMadeByTheirDescriptor) {
   EXPECT_TRUE(Mox::ptrCast<everyShape::Grove>(grove));
   EXPECT_EQ(grove->name(), Mox::Name("x"));
   EXPECT_FALSE(everyShape::Leaf::_fwkType()->newEntity("x", nullptr)) << "it is no root";
+}
+
+TEST(DescriptorTest, ChildKnowsTheAttributeThatHoldsIt) {
+  Watched every;
+  auto const child = every->bestIs("a", 1, everyShape::Mix());
+  ASSERT_TRUE(child->parentAttr());
+  EXPECT_EQ(child->parentAttr()->name(), Mox::Name("best"));
+  every->bestDel();
+  EXPECT_FALSE(child->parentAttr());
+}
+
+TEST(DescriptorTest, SingleFieldValueNamesItsAttribute) {
+  ASSERT_TRUE(everyShape::Level::_fwkType()->valAttr());
+  EXPECT_EQ(everyShape::Level::_fwkType()->valAttr()->name(), Mox::Name("value"));
+  EXPECT_FALSE(everyShape::Mix::_fwkType()->valAttr());
+}
+
+TEST(DescriptorTest, EntitiesValuesAndEnumerationsHaveAGenericInterface) {
+  for (Mox::MoxType const* type : {everyShape::Every::_fwkType(), everyShape::Mix::_fwkType(),
+                                   everyShape::_fwkType_Mood(), everyShape::Level::_fwkType()})
+    EXPECT_TRUE(type->hasGenericIfSupport()) << type->fullTypeName();
 }
 
 TEST(DescriptorTest, AttributesAreNamed) {
@@ -167,6 +188,24 @@ Mox::MoxType* lateType = nullptr;
 
 Mox::MoxType* Late::_fwkType() {
   return frame::descriptor<_Type>(lateType, [] { lateModule.initialise(); });
+}
+
+std::string asked;
+Mox::MoxType* used() {
+  asked += "used ";
+  return Mox::MoxType::opaque("used");
+}
+Mox::MoxType* own() {
+  asked += "own ";
+  return Mox::MoxType::opaque("own");
+}
+frame::TypeOf const usedTypes[] = {used};
+frame::TypeOf const ownTypes[] = {own};
+constinit frame::Module askingModule("asking", usedTypes, ownTypes, {});
+
+TEST(ModuleTest, UsedTypesComeAheadOfItsOwn) {
+  askingModule.initialise();
+  EXPECT_EQ(asked, "used own ");
 }
 
 TEST(ModuleTest, BareUntilTheReactorIsReadyThenFilledIn) {

@@ -70,10 +70,12 @@ template <class A>
 void mapDelAll(typename A::Owner& owner) {
   auto& map = A::map(owner);
   using Map = std::remove_reference_t<decltype(map)>;
-  if constexpr (EntityAttribute<A>)
+  if constexpr (EntityAttribute<A>) {
+    Held const held(owner);
     for (typename Map::Iterator at(map); at; ++at) mapDelAt<A>(owner, at);
-  else
+  } else {
     map.deleteAll();
+  }
 }
 
 }  // namespace frame

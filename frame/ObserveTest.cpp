@@ -214,6 +214,45 @@ TEST_F(ObserveTest, FailureInTheLastAnnouncementHasNumberFive) {
   EXPECT_EQ(weak->failures, std::vector<Mox::AttributeId>{5});
 }
 
+TEST_F(ObserveTest, FailureOfTheReportOfALastReferenceEndsInTheTrace) {
+  class Hopeless : public Every::NotifieeConst {
+   public:
+    void onZeroReferences() override {
+      notifierIs(nullptr);
+      throw 1;
+    }
+    void onNotificationException(Mox::AttributeId) override {
+      throw Mox::RangeException("no way out");
+    }
+  };
+  std::string lines;
+  auto const former = Mox::traceSinkIs([&](std::string_view line) { lines += line; });
+  Mox::Ptr<Hopeless> const hopeless = new Hopeless;
+  hopeless->isWeakReferenceIs(true);
+  watch(hopeless, entity);
+  entity = nullptr;
+  Mox::traceSinkIs(former);
+  EXPECT_NE(lines.find("what was told of a last reference raised: no way out"), std::string::npos);
+}
+
+TEST_F(ObserveTest, PlaceInTheListGoesByTheCountedReactor) {
+  class Adapter : public Mox::Entity::MoxNboAttrLogSa {};
+  class Forwarder : public Every::NotifieeConst {
+   public:
+    Mox::Ptr<Mox::PtrInterface::NotifieeConst const> moxReactor() const override {
+      return adapter_;
+    }
+
+   private:
+    Mox::Ptr<Adapter> adapter_ = new Adapter;
+  };
+  Mox::Ptr<PlainListener> const plain = new PlainListener;
+  Mox::Ptr<Forwarder> const forwarder = new Forwarder;
+  watch(plain, entity);
+  watch(forwarder, entity);
+  EXPECT_EQ(entity->moxNotifiees().head(), forwarder.ptr());
+}
+
 TEST_F(ObserveTest, UnreportedFailureIsTraced) {
   class Silent : public Every::NotifieeConst {
    public:

@@ -8,7 +8,9 @@ namespace frame {
 /// Raises `RangeException` "null ValidPtr" for null.
 void requireChild(Mox::Entity const* child);
 
-/// Makes the child and sets its place under the owner; it isn't stored.
+/// Makes the child and sets its place under the owner; it isn't stored.  The owner must outlive it,
+/// or the caller detaches it by `parentIs(null)`: the owner doesn't know it, and can't clear its
+/// pointer.
 template <EntityAttribute A, class... Args>
 typename A::Value ownNew(typename A::Owner& owner, Args const&... args) {
   typename A::Value const child = new typename A::Child(args...);
@@ -23,6 +25,7 @@ typename A::Value ownNew(typename A::Owner& owner, Args const&... args) {
 /// taken the new child away.
 template <EntityAttribute A, class... Args>
 typename A::Value ownIs(typename A::Owner& owner, Mox::Name const& name, Args const&... args) {
+  Held const held(owner);
   auto& stored = A::field(owner);
   if (stored) {
     owner.moxVersionInc();

@@ -76,6 +76,7 @@ Mox::Ptr<typename A::Child> ownsDelAt(typename A::Owner& owner, Iterator const& 
 template <EntityAttribute A>
 void ownsDelAll(typename A::Owner& owner) {
   using Map = std::remove_reference_t<decltype(A::map(owner))>;
+  Held const held(owner);
   for (typename Map::Iterator at(A::map(owner)); at; ++at) ownsDelAt<A>(owner, at);
 }
 

@@ -100,6 +100,8 @@ class Entity : public PtrInterface {
 class Entity::NotifieeConst : public PtrInterface::NotifieeConst {
  public:
   Name name() const override;
+  /// Something that is no entity counts as null.
+  void notifierIs(Ptr<PtrInterface const> const& notifier) override;
   virtual void onParent() {}
   virtual void onVersion() {}
 };

@@ -84,6 +84,23 @@ class LinkQueue {
   };
   Iterator iterator() const { return Iterator(*this); }
 
+  /// A walk without counts, from the head: the queue mustn't change meanwhile.
+  class RawIterator {
+   public:
+    explicit RawIterator(Node* node) : node_(node) {}
+    Node& operator*() const noexcept { return *node_; }
+    RawIterator& operator++() noexcept {
+      node_ = after(node_);
+      return *this;
+    }
+    bool operator==(RawIterator const& other) const noexcept { return node_ == other.node_; }
+
+   private:
+    Node* node_;
+  };
+  RawIterator begin() const { return RawIterator(head()); }
+  RawIterator end() const { return RawIterator(nullptr); }
+
   /// Removes the entry under the iterator, steps it to the next one, and returns what was removed.
   Ptr<Node> deleteAt(Iterator& at) {
     Ptr<Node> const node(at.node());

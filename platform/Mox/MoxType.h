@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Mox/Entity.h"
+#include "Mox/LinkQueue.h"
 
 #include <vector>
 
@@ -108,8 +109,9 @@ class MoxType : public MoxAttr {
                                        U32 introspectionFlags, AttributeId id);
   /// Enters an attribute that was made apart: one of the base, or one from `attrIs`.
   void attributeQEnq(Ptr<MoxAttr> const& attribute);
-  /// This type's attributes in the order of declaration, those of the base first.
-  std::vector<Ptr<MoxAttr>> const& attributeQ() const noexcept { return queue_; }
+  using AttributeQ = LinkQueue<MapNode<AttributeId, Ptr<MoxAttr>>, AttributeId, Ptr<MoxAttr>>;
+  /// This type's attributes by id, in the order of declaration, those of the base first.
+  AttributeQ const& attributeQ() const noexcept { return queue_; }
   /// The attribute of that id, the base's included; null where there is none.
   MoxAttr const* attributeById(AttributeId id) const noexcept;
 
@@ -137,7 +139,7 @@ class MoxType : public MoxAttr {
   U32 size_ = 0;
   MoxTypeFlags flags_;
   MoxAttr const* valAttr_ = nullptr;
-  std::vector<Ptr<MoxAttr>> queue_;
+  AttributeQ queue_;
   std::vector<MoxType*> derived_;
 };
 

@@ -24,7 +24,8 @@ struct NotifieeLevel {
 /// hear, for one that nobody but a running delivery holds is passed over.
 ///
 /// A weak notifiee must let go of its notifier (`notifierIs(null)` or destruction) in
-/// `onZeroReferences()` at the latest: the notifier doesn't clear its notifiees' pointers.
+/// `onZeroReferences()` at the latest, which only a registered one is told: the notifier doesn't
+/// clear its notifiees' pointers.
 class PtrInterface::NotifieeConst : public PtrInterface {
  public:
   NotifieeConst() = default;
@@ -59,7 +60,9 @@ class PtrInterface::NotifieeConst : public PtrInterface {
   virtual void handleNotificationException(AttributeId id);
   virtual void handleNotificationException();
 
-  /// The notifier's last reference has gone; who takes one now keeps it alive.
+  /// The notifier's last reference has gone; who takes one now keeps it alive.  Only registered
+  /// notifiees are told.  An exception out of the report of a failure ends here, in the trace
+  /// "MoxNotification": pointers let go where none can pass.
   virtual void onZeroReferences();
 
   virtual ActivityConfig* activityPtr() const;

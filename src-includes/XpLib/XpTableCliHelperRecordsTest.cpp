@@ -10,8 +10,8 @@ using Strings = std::vector<std::string>;
 
 Strings attributes(Mox::MoxType const& type) {
   Strings result;
-  for (auto const& attribute : type.attributeQ())
-    result.push_back(std::to_string(attribute->id()) + ' ' + attribute->name().charPtr());
+  for (auto const& entry : type.attributeQ())
+    result.push_back(std::to_string(entry.key()) + ' ' + entry.value()->name().charPtr());
   return result;
 }
 

@@ -10,8 +10,8 @@ Mox::MoxType const& type() { return *TableManSm::_fwkType(); }
 // "139 doCreateBdTables"
 Lines attributes() {
   Lines result;
-  for (auto const& attribute : type().attributeQ())
-    result.push_back(std::to_string(attribute->id()) + ' ' + attribute->name().charPtr());
+  for (auto const& entry : type().attributeQ())
+    result.push_back(std::to_string(entry.key()) + ' ' + entry.value()->name().charPtr());
   return result;
 }
 

@@ -85,6 +85,10 @@ Ptr<Entity::MoxNboAttrLogSa> Entity::moxNboAttrLogSaDel(Ptr<NboAttrLog::Out cons
 
 MoxType const* Entity::fwkType() const { return _fwkType(); }
 
+void Entity::NotifieeConst::notifierIs(Ptr<PtrInterface const> const& notifier) {
+  PtrInterface::NotifieeConst::notifierIs(ptrCast<Entity const>(notifier));
+}
+
 Name Entity::NotifieeConst::name() const {
   auto const* entity = static_cast<Entity const*>(moxNotifier());
   return entity ? entity->name() : Name();

@@ -64,6 +64,30 @@ TEST(EntityTest, SameParentIsNoChange) {
   EXPECT_EQ(child->formers, "none;");
 }
 
+TEST(EntityTest, HandleParentSeesTheNewParent) {
+  class Seeing : public Entity {
+   public:
+    using Entity::Entity;
+    void handleParent(Ptr<Entity> const&) override { seen = parent(); }
+    Ptr<Entity> seen;
+  };
+  Ptr<Entity> const root = new Entity("root");
+  Ptr<Seeing> const child = new Seeing("child");
+  child->parentIs(root);
+  EXPECT_EQ(child->seen, root);
+  child->parentIs(nullptr);
+  EXPECT_FALSE(child->seen);
+}
+
+TEST(EntityTest, NotifierThatIsNoEntityCountsAsNone) {
+  class Thing : public PtrInterface {};
+  class Observer : public Entity::NotifieeConst {};
+  Ptr<Observer> const observer = new Observer;
+  observer->notifierIs(new Thing);
+  EXPECT_EQ(observer->moxNotifier(), nullptr);
+  EXPECT_TRUE(observer->name().empty());
+}
+
 TEST(EntityTest, ParentIsNotHeldByItsChild) {
   Ptr<Node> const root = new Node("root");
   auto const child = nodeUnder(root, "child");

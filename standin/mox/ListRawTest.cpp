@@ -27,6 +27,23 @@ TEST_F(ListRawTest, StartsEmptyWithoutChanges) {
   EXPECT_TRUE(list.empty());
 }
 
+TEST_F(ListRawTest, HasFourWords) { EXPECT_EQ(sizeof list, 2 * sizeof(U32) + 2 * sizeof(void*)); }
+
+TEST_F(ListRawTest, ClearHoldsEachMemberForAMoment) {
+  class Brief : public Member {
+   public:
+    explicit Brief(int& ends) : ends_(ends) {}
+    ~Brief() override { ++ends_; }
+
+   private:
+    int& ends_;
+  };
+  int ends = 0;
+  list.linkTail(new Brief(ends));
+  list.clear();
+  EXPECT_EQ(ends, 1) << "nobody but the walk held it";
+}
+
 TEST_F(ListRawTest, TailAndHeadLinksKeepTheirOrder) {
   list.linkTail(a.ptr());
   list.linkTail(b.ptr());

@@ -13,23 +13,17 @@ std::map<Name, MoxType const*>& typeNodes() {
   return *nodes;
 }
 
-template <class Attributes, class Test>
-MoxAttr* findAttr(Attributes const& attributes, Test test) {
-  auto const found = std::find_if(attributes.begin(), attributes.end(), test);
-  return found == attributes.end() ? nullptr : found->ptr();
-}
-
-auto named(Name const& name) {
-  return [&name](Ptr<MoxAttr> const& attribute) { return attribute->name() == name; };
-}
-
 }  // namespace
 
 MoxAttr::MoxAttr(Name const& name, MoxType const* type, MoxType const* keyType, AttrFlags flags,
                  AttributeId id)
     : Entity(name), type_(type), keyType_(keyType), flags_(flags), id_(id) {}
 
-Ptr<MoxAttr> MoxAttr::attr(Name const& name) const { return findAttr(attributes_, named(name)); }
+Ptr<MoxAttr> MoxAttr::attr(Name const& name) const {
+  for (Ptr<MoxAttr> const& attribute : attributes_)
+    if (attribute->moxName() == name) return attribute;
+  return nullptr;
+}
 
 Ptr<MoxAttr> MoxAttr::attrDel(Name const& name) {
   Ptr<MoxAttr> const struck = attr(name);
@@ -64,10 +58,13 @@ Ptr<MoxAttr> MoxType::defNoninstantiatingAttr(MoxType const* type, Name const& n
   return made;
 }
 
-void MoxType::attributeQEnq(Ptr<MoxAttr> const& attribute) { queue_.push_back(attribute); }
+void MoxType::attributeQEnq(Ptr<MoxAttr> const& attribute) {
+  queue_.enq(new MapNode<AttributeId, Ptr<MoxAttr>>(attribute->id(), attribute));
+}
 
 MoxAttr const* MoxType::attributeById(AttributeId id) const noexcept {
-  return findAttr(queue_, [id](Ptr<MoxAttr> const& attribute) { return attribute->id() == id; });
+  auto const* const entry = queue_.find(id);
+  return entry ? entry->value().ptr() : nullptr;
 }
 
 Ptr<Entity> MoxType::newEntity(Name const&, Dir*) const { return nullptr; }

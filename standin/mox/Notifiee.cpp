@@ -2,6 +2,7 @@
 #include "Mox/Notifiee.h"
 
 #include "Mox/TraceAt.h"
+#include "standin/mox/LostException.h"
 
 #include <exception>
 
@@ -27,15 +28,17 @@ String8 complaint() {
   }
 }
 
-/// Without a word, a hook that throws would be lost: nobody else hears of it.
 void report(Name const& notifier, String8 const& hook) {
-  String8 const text = complaint();
-  traceAt(traceHandle(), 0, {sourcePath, "onNotificationException"}, [&](std::ostream& out) {
-    out << hook << " of a notifiee of '" << notifier << "' raised: " << text;
-  });
+  traceLostException(hook + " of a notifiee of '" + notifier.stringValue() + "'");
 }
 
 }  // namespace
+
+void traceLostException(String8 const& who) {
+  String8 const text = complaint();
+  traceAt(traceHandle(), 0, {sourcePath, "onNotificationException"},
+          [&](std::ostream& out) { out << who << " raised: " << text; });
+}
 
 PtrInterface::NotifieeConst::~NotifieeConst() {
   if (notifier_) notifier_->referencesDec();

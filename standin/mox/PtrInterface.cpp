@@ -1,6 +1,8 @@
 // Counted objects: flags, release, the tracker of immortals.
 #include "Mox/PtrInterface.h"
 
+#include "standin/mox/LostException.h"
+
 #include <unordered_set>
 
 namespace Mox {
@@ -39,7 +41,12 @@ void PtrInterface::handleZeroRef() const {
   auto* self = const_cast<PtrInterface*>(this);
   // Held for the time of the call, so that a reference taken and dropped meanwhile isn't the last.
   referenceWord_.inc();
-  self->zeroReferencesIs(true);
+  try {
+    self->zeroReferencesIs(true);
+  } catch (...) {
+    // Pointers let go where no exception can pass.
+    traceLostException("what was told of a last reference");
+  }
   if (!referenceWord_.dec()) return;
   // What the destructor touches may take references to this object again; they must not end it
   // twice.

@@ -105,8 +105,8 @@ TEST(RegistrationTest, OfTheTraceHandlesTheSdksAloneIsMadeAtLoad) {
 
 TEST(RegistrationTest, InheritedAttributesComeFirst) {
   Names names;
-  for (auto const& attribute : Kestrel::ChipStatus::_fwkType()->attributeQ())
-    names.emplace_back(attribute->name().view());
+  for (auto const& entry : Kestrel::ChipStatus::_fwkType()->attributeQ())
+    names.emplace_back(entry.value()->name().view());
   EXPECT_EQ(names, (Names{"moxHasAttrLogInterface", "ready", "moxHasAttrLogInterface", "deviceType",
                           "deviceSubType", "tableContextEntry", "portMappingTime"}));
 }

@@ -42,12 +42,12 @@ AttributeDump dumpAttribute(Mox::MoxAttr const& attribute) {
 // The queue has the base's attributes ahead of the type's own.
 std::vector<AttributeDump> dumpAttributes(Mox::MoxType const& type) {
   std::vector<AttributeDump> attributes;
-  std::size_t inherited = type.base() ? type.base()->attributeQ().size() : 0;
-  for (auto const& attribute : type.attributeQ())
+  U32 inherited = type.base() ? type.base()->attributeQ().count() : 0;
+  for (auto const& entry : type.attributeQ())
     if (inherited > 0)
       --inherited;
     else
-      attributes.push_back(dumpAttribute(*attribute));
+      attributes.push_back(dumpAttribute(*entry.value()));
   return attributes;
 }
 

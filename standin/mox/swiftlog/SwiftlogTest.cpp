@@ -59,6 +59,18 @@ Mox::String8 refusal(Action action) {
   return "none";
 }
 
+TEST(SwiftlogTest, RecordOfAnIdThatNobodyRegisteredIsLost) {
+  TraceFile file;
+  RingBuf record;
+  record.startMsg(&file, 7);
+  record.put(U8(1));
+  record.endMsg();
+  std::ostringstream out;
+  Reader reader(file.bytes());
+  EXPECT_NO_THROW(reader.print(out));
+  EXPECT_EQ(reader.lost(), 1u);
+}
+
 TEST(SwiftlogTest, OffMeansNothingIsRegistered) {
   static constinit Site site("file");
   site.log("text");

@@ -90,8 +90,9 @@ int TraceFile::descriptorIs(std::span<std::byte const> descriptor) {
 }
 
 void TraceFile::recordIs(int id, std::span<std::byte const> arguments) {
-  if (id <= 0 || arguments.size() > RingBuf::maxArguments) return lostInc();
   auto& head = header();
+  bool const registered = id > 0 && static_cast<U32>(id) <= head.descriptorCount;
+  if (!registered || arguments.size() > RingBuf::maxArguments) return lostInc();
   RecordHeader const record = {static_cast<U32>(arguments.size()), static_cast<U32>(id),
                                head.nextNumber++};
   makeRoom(recordSize(arguments.size()));

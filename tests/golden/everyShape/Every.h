@@ -188,9 +188,9 @@ class Every : public Mox::Entity {
 
   Mox::Ptr<Leaf> best() const;
   /// The child under that name; one that bears it already is kept, another one is replaced, which
-  /// calls `onBest()`.
+  /// calls `onBest()`.  Raises `RangeException` "null ValidPtr" if that takes the new child away.
   Mox::Ptr<Leaf> bestIs(Mox::Name const& name, U8 lane, Mix mix);
-  /// Makes a child in its place under this entity, and doesn't store it.
+  /// Makes a child in its place under this entity, and doesn't store it: this entity must outlive it.
   Mox::Ptr<Leaf> newBest(Mox::Name const& name, U8 lane, Mix mix);
   /// Detaches the child and returns it; null without one.
   Mox::Ptr<Leaf> bestDel();
