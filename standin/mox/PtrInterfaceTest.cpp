@@ -130,6 +130,8 @@ TEST(PtrInterfaceTest, WhatIsMadeImmortalIsStruckFromTheTrackerWhileThatIsOn) {
     ptrifTrackOn_ = false;
     EXPECT_EQ(PtrTrack::tracked(), on ? tracked - 1 : tracked);
     EXPECT_EQ(type->references(), 1u);
+    PtrTrack::ptrifDel(type);
+    type->referencesDec();
   }
 }
 
