@@ -1,6 +1,7 @@
 // The integers of few bits, at top level, by the names that descriptors and schemas use.
 #pragma once
 
+#include "Mox/NboAttrLog.h"
 #include "Mox/Strep.h"
 
 #include <iosfwd>
@@ -25,8 +26,12 @@ class BoundedInteger {
   BoundedInteger(String8::IteratorConst& at, String8::IteratorConst const& end)
       : BoundedInteger(static_cast<Storage>(sequenceToAttribute<long long>(at, end, "value"))) {}
 
+  /// Reads what a peer has written; its bound isn't checked.
+  BoundedInteger(NboAttrLog::In* in, StreamBogon) : value_(in->nextInteger<Storage>()) {}
+
   constexpr operator Storage() const noexcept { return value_; }
   constexpr Storage value() const noexcept { return value_; }
+  MoxType const* fwkType() const { return Self::_fwkType(); }
 
  private:
   constexpr void check() const {

@@ -53,8 +53,8 @@ inline bool sameBytes(std::string_view a, std::string_view b) noexcept {
   return std::memcmp(a.data(), b.data(), size) == 0;
 }
 
-/// Hash, equality and order of a collection's keys.  Specialise it for a key that has no public
-/// order, or one that isn't the collection's.
+/// Hash, equality and order of a collection's keys.  A single-field value without a public order is
+/// ordered by its number.  Specialise it for a key whose order isn't the collection's.
 template <class Key>
 struct KeyOps {
   /// A number's low 32 bits; `hash()` of a key that has one; the number of a single-field value.
@@ -75,7 +75,12 @@ struct KeyOps {
     else
       return a == b;
   }
-  static bool less(Key const& a, Key const& b) noexcept { return a < b; }
+  static bool less(Key const& a, Key const& b) noexcept {
+    if constexpr (requires { a < b; })
+      return a < b;
+    else
+      return a.value() < b.value();
+  }
 };
 
 }  // namespace Mox

@@ -5,6 +5,7 @@
 #include "Mox/AttributeId.h"
 #include "Mox/BitSet.h"
 #include "Mox/BoundedIntegers.h"
+#include "Mox/ByteConnection.h"
 #include "Mox/Dir.h"
 #include "Mox/Entity.h"
 #include "Mox/Exception.h"

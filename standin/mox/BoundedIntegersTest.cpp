@@ -80,6 +80,11 @@ TEST(BoundedIntegerTest, ParserNarrowsBeforeItChecks) {
   EXPECT_EQ(complaint([] { strepToValue<U4>("-1"); }), "U4::value < 0 or > 0x0f not allowed");
 }
 
+TEST(BoundedIntegerTest, KnowsItsDescriptor) {
+  EXPECT_EQ(U4(3).fwkType(), U4::_fwkType());
+  EXPECT_EQ(U22().fwkType(), U22::_fwkType());
+}
+
 TEST(BoundedIntegerTest, ParserComplainsOfTheAttributeValue) {
   EXPECT_EQ(complaint([] { strepToValue<U4>("x"); }),
             "attribute 'value': column 0: expected long long, found 'x'");
