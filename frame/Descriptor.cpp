@@ -31,6 +31,13 @@ void inheritAttributes(Mox::IntrospectionReactor& reactor, Mox::MoxType& type) {
   }
 }
 
+// Looks among inherited attributes too.
+Mox::MoxAttr const* attributeNamed(Mox::MoxType const& type, Mox::Name const& name) {
+  for (auto const& entry : type.attributeQ())
+    if (entry.value()->moxName() == name) return entry.value().ptr();
+  return nullptr;
+}
+
 Mox::Ptr<Mox::MoxAttr> makeAttribute(Mox::MoxType& type, AttributeRow const& row) {
   auto* const valueType = row.type();
   auto* const keyType = row.key ? row.key() : nullptr;
@@ -60,7 +67,7 @@ void describe(Mox::IntrospectionReactor& reactor, TypeRow const& row) {
     reactor.handleAttr(attribute);
     reactor.handleAttrContextExit();
   }
-  if (row.valueAttribute) type.valAttrIs(type.attr(row.valueAttribute).ptr());
+  if (row.valueAttribute) type.valAttrIs(attributeNamed(type, row.valueAttribute));
   reactor.handleScopeExit();
 }
 

@@ -70,6 +70,15 @@ TEST(DescriptorTest, ObjectsAndValuesHaveTheirFlags) {
   EXPECT_EQ(attribute(mix, "hash").introspectionFlags(), 0u);
 }
 
+TEST(DescriptorTest, FieldsThatCanBeSetHaveFlagsOfTheirOwn) {
+  for (auto const* type : {everyShape::Dial::_fwkType(), everyShape::Knob::_fwkType()}) {
+    EXPECT_EQ(type->attributeById(2)->flags(), (Flags{0x22010F, 0x400}));
+    EXPECT_EQ(type->attributeById(2)->introspectionFlags(), 2u);
+    EXPECT_EQ(type->attributeById(3)->flags(), (Flags{0x220007, 0x400}));
+    EXPECT_EQ(type->attributeById(3)->introspectionFlags(), 0u);
+  }
+}
+
 TEST(DescriptorTest, EnumeratorsAreAttributesOfTheirEnumeration) {
   auto const* mood = everyShape::_fwkType_Mood();
   EXPECT_EQ(attribute(mood, "tense").id(), 1u);

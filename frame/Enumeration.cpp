@@ -18,7 +18,7 @@ S32 enumByNumber(EnumTable const& table, U32 number) {
 
 S32 enumByName(EnumTable const& table, Mox::String8 const& name) {
   for (U32 number = 0; number < table.values.size(); ++number)
-    if (name == table.values[number]) return static_cast<S32>(number);
+    if (name.view() == table.values[number]) return static_cast<S32>(number);
   Mox::throwRangeException(table.name);
 }
 

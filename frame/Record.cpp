@@ -5,12 +5,14 @@
 
 #include <algorithm>
 #include <compare>
+#include <string>
 
 namespace frame {
 
 namespace {
 
-using Position = Mox::String8::IteratorConst;
+using Mox::String8;
+using Position = String8::IteratorConst;
 
 template <class T>
 T const& at(FieldRow const& field, void const* record) {
@@ -22,100 +24,75 @@ T& at(FieldRow const& field, void* record) {
   return *reinterpret_cast<T*>(static_cast<char*>(record) + field.offset);
 }
 
-long long number(FieldRow const& field, void const* record) {
+// Calls `step` with the field as what it is held as.
+template <class Record, class Step>
+auto visit(FieldRow const& field, Record* record, Step step) {
   switch (field.type) {
     case FieldType::u8:
-      return at<U8>(field, record);
+      return step(at<U8>(field, record));
     case FieldType::s8:
-      return at<S8>(field, record);
+      return step(at<S8>(field, record));
     case FieldType::u16:
-      return at<U16>(field, record);
+      return step(at<U16>(field, record));
     case FieldType::u32:
-      return at<U32>(field, record);
+      return step(at<U32>(field, record));
     case FieldType::string:
       break;
   }
-  return 0;
-}
-
-void numberIs(FieldRow const& field, void* record, long long value) {
-  switch (field.type) {
-    case FieldType::u8:
-      at<U8>(field, record) = static_cast<U8>(value);
-      break;
-    case FieldType::s8:
-      at<S8>(field, record) = static_cast<S8>(value);
-      break;
-    case FieldType::u16:
-      at<U16>(field, record) = static_cast<U16>(value);
-      break;
-    case FieldType::u32:
-      at<U32>(field, record) = static_cast<U32>(value);
-      break;
-    case FieldType::string:
-      break;
-  }
-}
-
-std::strong_ordering compareField(FieldRow const& field, void const* a, void const* b) {
-  if (field.type == FieldType::string)
-    return at<Mox::String8>(field, a) <=> at<Mox::String8>(field, b);
-  return number(field, a) <=> number(field, b);
+  return step(at<String8>(field, record));
 }
 
 std::strong_ordering compare(RecordTable const& table, void const* a, void const* b) {
-  for (FieldRow const& field : table.fields)
-    if (auto const order = compareField(field, a, b); order != 0) return order;
+  for (FieldRow const& field : table.fields) {
+    auto const order =
+        visit(field, a, [&field, b]<class T>(T const& value) { return value <=> at<T>(field, b); });
+    if (order != 0) return order;
+  }
   return std::strong_ordering::equal;
 }
 
-Mox::String8 fieldText(FieldRow const& field, void const* record) {
-  if (field.type == FieldType::string) return Mox::valueToStrep(at<Mox::String8>(field, record));
-  return Mox::valueToStrep(number(field, record));
-}
-
-FieldRow const& fieldNamed(RecordTable const& table, Mox::String8 const& key) {
-  auto const found = std::find_if(table.fields.begin(), table.fields.end(),
-                                  [&key](FieldRow const& field) { return key == field.name; });
+FieldRow const& fieldNamed(RecordTable const& table, String8 const& key) {
+  auto const found =
+      std::find_if(table.fields.begin(), table.fields.end(),
+                   [&key](FieldRow const& field) { return key.view() == field.name; });
   if (found == table.fields.end())
-    Mox::throwRangeException(Mox::String8(table.name) + " has no such attribute: " + key);
+    Mox::throwRangeException(String8(table.name) + " has no such attribute: " + key);
   return *found;
 }
 
-void parseField(FieldRow const& field, void* record, Position& position, Position const& end) {
-  try {
-    if (field.type == FieldType::string) {
-      Mox::sequenceToValue(position, end, &at<Mox::String8>(field, record));
-    } else {
-      long long value = 0;
-      Mox::sequenceToValue(position, end, &value);
-      numberIs(field, record, value);
-    }
-  } catch (Mox::RangeException const& complaint) {
-    Mox::String8 name = field.name;
-    Mox::rethrowFromDeserializeAttr(complaint, name);
-  }
+template <std::integral T>
+void parse(T& value, Position& position, Position const& end, char const* name) {
+  value = static_cast<T>(Mox::sequenceToAttribute<long long>(position, end, name));
 }
 
-void parseOpening(RecordTable const& table, Position& position, Position const& end) {
-  Mox::String8 const quotedType = Mox::String8(" '") + table.fullName + "'";
-  for (char const* token : {" Value", " (", quotedType.charPtr(), " ,", " **", " {"})
-    Mox::needString(position, end, token);
+void parse(String8& value, Position& position, Position const& end, char const* name) {
+  value = Mox::sequenceToAttribute<String8>(position, end, name);
 }
 
 /// Past white space; raises if that is all there is.
 U8 nextByte(RecordTable const& table, Position& position, Position const& end) {
   Mox::needString(position, end, " ");
   if (position == end)
-    Mox::throwRangeException(Mox::String8("premature end of value type ") + table.name);
+    Mox::throwRangeException(String8("premature end of value type ") + table.name);
   return *position;
 }
 
-U8 byteOf(FieldRow const& field, void const* record, U32 index) {
-  return static_cast<U8>(static_cast<U32>(number(field, record)) >> (8 * index));
+template <std::integral T>
+void read(T& value, Mox::NboAttrLog::In& in) {
+  value = in.nextInteger<T>();
 }
 
-U32 width(FieldType type) { return type == FieldType::u32 ? 4 : type == FieldType::u16 ? 2 : 1; }
+void read(String8& value, Mox::NboAttrLog::In& in) { value = in.nextString(); }
+
+template <std::integral T>
+void addTo(Mox::OneAtATime& hash, T value) {
+  for (U32 shift = 0; shift < 8 * sizeof(T); shift += 8)
+    hash.add(static_cast<U8>(static_cast<U32>(value) >> shift));
+}
+
+void addTo(Mox::OneAtATime& hash, String8 const& value) {
+  for (U8 const byte : value.view()) hash.add(byte);
+}
 
 }  // namespace
 
@@ -127,41 +104,46 @@ bool recordLess(RecordTable const& table, void const* a, void const* b) {
   return compare(table, a, b) < 0;
 }
 
-Mox::String8 recordText(RecordTable const& table, void const* record) {
-  std::string text = "Value('";
-  text.append(table.fullName).append("', ** {");
+String8 recordText(RecordTable const& table, void const* record) {
+  std::string text = table.opening;
   char const* separator = "'";
   for (FieldRow const& field : table.fields) {
     text.append(separator).append(field.name).append("': ");
-    text.append(fieldText(field, record).view());
+    visit(field, record,
+          [&text](auto const& value) { text.append(Mox::valueToStrep(value).view()); });
     separator = ", '";
   }
-  return Mox::String8(std::string_view(text.append("})")));
+  return std::string_view(text.append("})"));
 }
 
 void recordParse(RecordTable const& table, void* record, Position& position, Position const& end) {
-  parseOpening(table, position, end);
+  Mox::needString(position, end, table.pattern);
   for (bool first = true; nextByte(table, position, end) != '}'; first = false) {
     if (!first) Mox::needString(position, end, ", ");
-    Mox::String8 key;
-    Mox::sequenceToValue(position, end, &key);
+    String8 const key = Mox::sequenceToValue(position, end, static_cast<String8*>(nullptr));
     Mox::needString(position, end, " : ");
-    parseField(fieldNamed(table, key), record, position, end);
+    FieldRow const& field = fieldNamed(table, key);
+    visit(field, record, [&](auto& value) { parse(value, position, end, field.name); });
   }
   Mox::needString(position, end, "} ");
   Mox::needString(position, end, ") ");
 }
 
+void recordWrite(RecordTable const& table, Mox::Ptr<Mox::NboAttrLog::Out> const& out,
+                 void const* record) {
+  for (FieldRow const& field : table.fields)
+    visit(field, record, [&out](auto const& value) { out << value; });
+}
+
+void recordRead(RecordTable const& table, void* record, Mox::NboAttrLog::In& in) {
+  for (FieldRow const& field : table.fields)
+    visit(field, record, [&in](auto& value) { read(value, in); });
+}
+
 U32 recordHash(RecordTable const& table, void const* record) {
   Mox::OneAtATime hash;
-  for (FieldRow const& field : table.fields) {
-    if (field.type == FieldType::string) {
-      for (U8 byte : at<Mox::String8>(field, record).view()) hash.add(byte);
-    } else {
-      for (U32 index = 0; index < width(field.type); ++index)
-        hash.add(byteOf(field, record, index));
-    }
-  }
+  for (FieldRow const& field : table.fields)
+    visit(field, record, [&hash](auto const& value) { addTo(hash, value); });
   return hash.finish();
 }
 

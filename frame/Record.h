@@ -1,6 +1,7 @@
-// Value records: comparison, text form, parser and hash, all over one table of fields.
+// Value records: comparison, text form, parser, stream form and hash, all over one table of fields.
 #pragma once
 
+#include "Mox/NboAttrLog.h"
 #include "Mox/Strep.h"
 #include "Mox/String8.h"
 
@@ -20,8 +21,9 @@ struct FieldRow {
 
 /// A record's type as texts and parsers name it, and its fields in order.
 struct RecordTable {
-  char const* name;      ///< "TxEq"
-  char const* fullName;  ///< "Kestrel::TxEq"
+  char const* name;     ///< "TxEq"
+  char const* opening;  ///< "Value('Kestrel::TxEq', ** {"
+  char const* pattern;  ///< the opening as parsers need it: " Value ( 'Kestrel::TxEq' , ** {"
   std::span<FieldRow const> fields;
 };
 
@@ -40,6 +42,13 @@ Mox::String8 recordText(RecordTable const& table, void const* record);
 /// attribute: <key>", and the complaints of the runtime's tokens and values.
 void recordParse(RecordTable const& table, void* record, Mox::String8::IteratorConst& at,
                  Mox::String8::IteratorConst const& end);
+
+/// The fields in order, without tag or length.
+void recordWrite(RecordTable const& table, Mox::Ptr<Mox::NboAttrLog::Out> const& out,
+                 void const* record);
+
+/// Reads what `recordWrite` has written.
+void recordRead(RecordTable const& table, void* record, Mox::NboAttrLog::In& in);
 
 /// One-at-a-time over the bytes of the fields in order, wider ones least significant byte first.
 U32 recordHash(RecordTable const& table, void const* record);

@@ -1,4 +1,5 @@
 // Value records and enumerations: comparison, texts, parsers, hashes.
+#include "Mox/TestValues.h"
 #include "frame/Record.h"
 #include "frame/TestLanguage.h"
 
@@ -9,6 +10,8 @@ namespace frametest {
 namespace {
 
 using everyShape::Mix;
+using moxtest::read;
+using moxtest::written;
 
 constexpr char const* fullText =
     "Value('everyShape::Mix', ** {'small': 1, 'below': -3, 'medium': 2, 'large': 4000000000, "
@@ -113,6 +116,30 @@ TEST(RecordTest, HashRunsOverTheBytesInFieldOrder) {
   for (int byte : {1, 0xFD, 2, 0, 4, 3, 2, 1, int('h'), int('i')})
     expected.add(static_cast<U8>(byte));
   EXPECT_EQ(Mix(1, -3, 2, 0x01020304, "hi").hash(), expected.finish());
+}
+
+TEST(RecordTest, AStreamHasTheFieldsInOrder) {
+  std::string_view const bytes(
+      "\x01\xFD\0\x02\xEE\x6B\x28\0\0\0\0\x03"
+      "a'b",
+      15);
+  EXPECT_EQ(written(full()), bytes);
+  EXPECT_EQ(read<Mix>(bytes), full());
+}
+
+TEST(RecordTest, AStreamThatEndsInAFieldIsRefused) {
+  std::string const bytes = written(full());
+  for (std::size_t size = 0; size < bytes.size(); ++size)
+    EXPECT_THROW(read<Mix>(std::string_view(bytes).substr(0, size)), Mox::RangeException) << size;
+}
+
+TEST(RecordTest, FieldsThatCanBeSetAreNoConstructorArguments) {
+  everyShape::Knob knob;
+  EXPECT_EQ(knob.turn(), 3);
+  knob.turnIs(4);
+  EXPECT_EQ(valueToStrep(knob), "Value('everyShape::Knob', ** {'turn': 4})");
+  EXPECT_TRUE(knob.fwkType()->constructorArgNames().empty());
+  EXPECT_EQ(knob.fwkType()->valAttr(), nullptr);
 }
 
 TEST(EnumerationTest, NamesAndNumbers) {

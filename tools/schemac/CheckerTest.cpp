@@ -181,8 +181,49 @@ TEST(CheckerTest, ABaseIsAnEntityAbove) {
             "s:2:12: error: \"U8\" is a primitive, and an entity is needed\n");
   EXPECT_EQ(errors("entity X : X\nend\n"),
             "s:2:12: error: the base \"X\" must stand above \"X\"\n");
-  EXPECT_EQ(errors("extern value B header h\nvalue X : B\n2 a U8\nend\n"),
-            "s:3:11: error: only an entity has a base\n");
+  EXPECT_EQ(errors("extern object B header h\nobject X (a U8) : B\n130 param a U8\nend\n"),
+            "s:3:19: error: only an entity or a value has a base\n");
+}
+
+TEST(CheckerTest, AValueAddsNothingToItsBaseButABound) {
+  std::string const base = "value B\n2 value U8\n3 computed hash U8\nend\n";
+  std::string const bound = "2 bound value U8 in 0..9 else \"m\"\n";
+  EXPECT_EQ(errors(base + "value X : B\n" + bound + "end\n"), "");
+  EXPECT_EQ(errors("extern value B header h\nvalue X : B\n" + bound + "end\n"), "");
+  std::string const wanted = "error: a value with a base has a \"bound\" and no other row\n";
+  EXPECT_EQ(errors(base + "value X : B\n2 value U8\nend\n"),
+            "s:6:7: " + wanted +
+                "s:7:1: error: \"value\" of \"value\" is made for \"value\" of \"B\" too\n");
+  EXPECT_EQ(errors(base + "value X : B\n" + bound + "3 computed sum U8\nend\n"),
+            "s:6:7: " + wanted);
+  EXPECT_EQ(errors(base + "value X : B\nend\n"), "s:6:7: " + wanted);
+  EXPECT_EQ(errors("value X\n" + bound + "end\n"),
+            "s:3:1: error: \"bound\" needs a base, whose field it bounds\n");
+  EXPECT_EQ(errors(base + "value X : B\n2 bound value U8\nend\n"),
+            "s:7:1: error: \"bound\" needs a range\n");
+}
+
+TEST(CheckerTest, ABoundIsOfTheFirstFieldOfTheBase) {
+  std::string const base = "value B\n2 value U8\nend\nvalue X : B\n2 bound ";
+  std::string const wanted = " isn't the first field of \"B\"\n";
+  EXPECT_EQ(errors(base + "other U8 in 0..9 else \"m\"\nend\n"),
+            "s:6:1: error: \"other\"" + wanted);
+  EXPECT_EQ(errors(base + "value U32 in 0..9 else \"m\"\nend\n"),
+            "s:6:1: error: \"value\"" + wanted);
+}
+
+TEST(CheckerTest, AComputedRowReadsAsAFieldOfItsType) {
+  EXPECT_EQ(errors("value X\n2 a U8\n3 b U8\n4 computed hash U8 of b\nend\n"), "");
+  EXPECT_EQ(errors("value X\n2 a U8\n3 computed hash U8 of hash\nend\n"),
+            "s:4:23: error: \"X\" has no field \"hash\"\n");
+  EXPECT_EQ(errors("value X\n2 a U8\n3 computed hash U32 of a\nend\n"),
+            "s:4:17: error: \"a\" has another type\n");
+}
+
+TEST(CheckerTest, TextParserAndOrderOfOneNumberAreGenerated) {
+  EXPECT_EQ(errors("value X customText\n2 value U8\nend\n"),
+            "s:2:9: error: \"customText\" is for records, and \"X\" is one number\n");
+  EXPECT_EQ(errors("value X customText\n2 text U8\nend\n"), "");
 }
 
 TEST(CheckerTest, EnumerationsStandAboveAllThatNameThem) {
@@ -216,9 +257,11 @@ TEST(CheckerTest, AValueWithoutFieldsIsMadeByHand) {
 
 TEST(CheckerTest, AHashOfFieldsIsAnIntegerOfAValueThatHasSome) {
   EXPECT_EQ(inEntity("258 computed h U32 ofFields"),
-            "s:3:1: error: \"h\" needs a value with fields that have no range\n");
+            "s:3:1: error: \"h\" needs a value that is a record of fields\n");
   EXPECT_EQ(errors("value X\n2 x U8 in 0..9 else \"m\"\n3 computed h U32 ofFields\nend\n"),
-            "s:4:1: error: \"h\" needs a value with fields that have no range\n");
+            "s:4:1: error: \"h\" needs a value that is a record of fields\n");
+  EXPECT_EQ(errors("value X\n2 value U8\n3 computed h U32 ofFields\nend\n"),
+            "s:4:1: error: \"h\" needs a value that is a record of fields\n");
   EXPECT_EQ(errors("value X\n2 x U8\n3 computed h double ofFields\nend\n"),
             "s:4:14: error: a hash is an integer, unlike \"double\"\n");
 }

@@ -81,7 +81,7 @@ void ElementChecker::keyType(Row const& row, TypeUse const& key) {
 }
 
 void ElementChecker::valueAsKey(Row const& row, Type const& value, Position const& at) {
-  auto const isBounded = [](Row const& each) { return each.range.has_value(); };
+  auto const isBounded = [](Row const& each) { return each.range && each.name == "value"; };
   if (std::ranges::any_of(value.rows, isBounded)) return;
   auto const isHash = [this](Row const& each) {
     return (each.name == "hash" || each.name == "value") && !each.key && each.type &&

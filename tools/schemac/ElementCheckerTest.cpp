@@ -37,7 +37,9 @@ TEST(ElementCheckerTest, AValueAsKeyHasOrderAndHash) {
             "a key needs a hash, so \"V\" needs an integer \"hash\" or \"value\"\n");
   EXPECT_EQ(fault("value V ordered\n2 b U8\nend\n", "map a V -> U8 ordered"), "");
   EXPECT_EQ(fault("value V ordered\n2 value U8\nend\n", "map a V -> U8"), "");
-  EXPECT_EQ(fault("value V\n2 b U8 in 0..9 else \"m\"\nend\n", "map a V -> U8"), "");
+  EXPECT_EQ(fault("value V\n2 value U8 in 0..9 else \"m\"\nend\n", "map a V -> U8"), "");
+  EXPECT_EQ(fault("value V\n2 b U8 in 0..9 else \"m\"\nend\n", "map a V -> U8"),
+            "a key needs an order, so \"V\" needs the option \"ordered\"\n");
 }
 
 TEST(ElementCheckerTest, AnOperationIsNoKey) {

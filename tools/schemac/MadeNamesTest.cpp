@@ -42,6 +42,8 @@ std::string oneRow(std::string const& shape) {
   std::string const entity = leaf + "entity Owl (name Mox::Name)\n258 " + shape + " zebra ";
   if (shape == "param") return "object Owl (zebra U8)\n130 param zebra U8\nend\n";
   if (shape == "field") return "value Owl mutable\n2 zebra U8\nend\n";
+  if (shape == "bound")
+    return "extern value Hen header h\nvalue Owl : Hen\n2 bound zebra U8 in 0..3 else \"m\"\nend\n";
   if (shape == "enumerator") return "enum Owl\n0 zebra\nend\n";
   if (shape == "map" || shape == "refs")
     return entity + "U8 -> " + (shape == "map" ? "U8" : "Leaf") + "\nend\n";

@@ -33,7 +33,6 @@ std::vector<std::string> spelled(std::vector<std::string_view> const& texts, Wor
 }
 
 std::vector<std::string> namesOf(Row const& row) {
-  if (row.range) return {};  // the field of a bounded integer is the runtime's
   return spelled(wordsOf(row.shape->makes), {{"name", row.name}, {"Name", capitalised(row.name)}});
 }
 

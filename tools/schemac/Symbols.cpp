@@ -1,6 +1,8 @@
 // The types that a schema can name.
 #include "tools/schemac/Symbols.h"
 
+#include <algorithm>
+
 namespace schemac {
 
 namespace {
@@ -72,6 +74,21 @@ TypeUse const* Symbols::attributeType(Type const& type, std::string const& name)
     if (row.name == name && row.type && !row.key && row.shape->form == Form::type)
       return &*row.type;
   return nullptr;
+}
+
+bool isFieldOfValue(Row const& row) {
+  return row.shape->name == "field" || row.shape->name == "bound";
+}
+
+bool isSingle(Symbols const& symbols, Type const& type) {
+  auto const isStored = [](Row const& row) { return row.shape->name != "computed"; };
+  auto const isNumber = [&](Row const& row) {
+    if (!isFieldOfValue(row) || (!row.range && row.name != "value")) return false;
+    Symbol const* of = symbols.find(type.space, *row.type);
+    return of && of->external && of->external->options.count("integer");
+  };
+  return type.kind == Kind::value && std::ranges::count_if(type.rows, isStored) == 1 &&
+         std::ranges::any_of(type.rows, isNumber);
 }
 
 std::string outputPath(std::string const& space, std::string const& name) {

@@ -47,6 +47,13 @@ class Symbols {
   std::map<std::string, Symbol> symbols_;
 };
 
+/// True for a row that the constructor of a value takes: a field, or the bound of an inherited one.
+bool isFieldOfValue(Row const& row);
+
+/// True for a value that is one number, so that its text is that number's: an integer with a range,
+/// or one called `value`.
+bool isSingle(Symbols const& symbols, Type const& type);
+
 /// "Kestrel/FecCounters" for `FecCounters` in namespace `Kestrel`: its place among generated files.
 std::string outputPath(std::string const& space, std::string const& name);
 

@@ -25,13 +25,15 @@ void TypeChecker::run() {
   keyOption();
   content();
   numbers();
+  bound();
   for (Row const& each : type_.rows) row(each);
 }
 
 void TypeChecker::base() {
   if (!type_.base) return;
-  if (type_.kind != Kind::entity) return error(type_.base->at, "only an entity has a base");
-  Symbol const* base = uses_.typed(*type_.base, "entity");
+  if (type_.kind != Kind::entity && type_.kind != Kind::value)
+    return error(type_.base->at, "only an entity or a value has a base");
+  Symbol const* base = uses_.typed(*type_.base, kindName(type_.kind));
   if (base && base->type && base->type->at.line >= type_.at.line)
     error(type_.base->at,
           "the base " + quoted(type_.base->name) + " must stand above " + quoted(type_.name));
@@ -76,11 +78,15 @@ void TypeChecker::keyOption() {
 
 void TypeChecker::content() {
   bool byHand = true;
-  for (char const* option : {"customText", "customParser", "customOrder"})
-    byHand = byHand && type_.options.count(option);
-  auto const isField = [](Row const& each) { return each.shape->name == "field"; };
+  for (char const* option : {"customText", "customParser", "customOrder"}) {
+    auto const given = type_.options.find(option);
+    byHand = byHand && given != type_.options.end();
+    if (given != type_.options.end() && isSingle(symbols_, type_))
+      error(given->second.at,
+            quoted(option) + " is for records, and " + quoted(type_.name) + " is one number");
+  }
   if (type_.kind == Kind::value && !byHand && !type_.rows.empty() &&
-      std::ranges::none_of(type_.rows, isField))
+      std::ranges::none_of(type_.rows, isFieldOfValue))
     error(type_.at,
           "a value without fields needs the options \"customText\", \"customParser\" "
           "and \"customOrder\"");
@@ -155,13 +161,44 @@ void TypeChecker::rowTypes(Row const& row) {
   for (Argument const& each : *row.arguments) uses_.known(each.type);
 }
 
+// A value adds nothing to its base but a bound of the base's field.
+void TypeChecker::bound() {
+  if (type_.kind != Kind::value) return;
+  auto const isBound = [](Row const& each) { return each.shape->name == "bound"; };
+  if (type_.base && (type_.rows.size() != 1 || !isBound(type_.rows.front())))
+    return error(type_.at, "a value with a base has a \"bound\" and no other row");
+  auto const found = std::ranges::find_if(type_.rows, isBound);
+  if (found == type_.rows.end()) return;
+  if (!type_.base) return error(found->at, "\"bound\" needs a base, whose field it bounds");
+  if (!found->range) error(found->at, "\"bound\" needs a range");
+  Type const* base = symbols_.ownBase(type_);
+  if (!base || base->rows.empty()) return;
+  Row const& field = base->rows.front();
+  if (field.name != found->name || !uses_.same(*field.type, *found->type))
+    error(found->at, quoted(found->name) + " isn't the first field of " + quoted(base->name));
+}
+
 void TypeChecker::computed(Row const& row) {
+  auto const of = row.options.find("of");
+  if (of != row.options.end()) computedOf(row, of->second);
   if (!row.options.count("ofFields")) return;
-  auto const isField = [](Row const& each) { return each.shape->name == "field" && !each.range; };
-  if (type_.kind != Kind::value || std::ranges::none_of(type_.rows, isField))
-    error(row.at, quoted(row.name) + " needs a value with fields that have no range");
+  auto const isField = [](Row const& each) { return each.shape->name == "field"; };
+  if (type_.kind != Kind::value || isSingle(symbols_, type_) ||
+      std::ranges::none_of(type_.rows, isField))
+    error(row.at, quoted(row.name) + " needs a value that is a record of fields");
   else if (!uses_.isInteger(*row.type))
     error(row.type->at, "a hash is an integer, unlike " + quoted(row.type->name));
+}
+
+void TypeChecker::computedOf(Row const& row, Word const& field) {
+  auto const isMeant = [&](Row const& each) {
+    return each.name == field.text && each.shape->name == "field";
+  };
+  auto const found = std::ranges::find_if(type_.rows, isMeant);
+  if (found == type_.rows.end())
+    error(field.at, quoted(type_.name) + " has no field " + quoted(field.text));
+  else if (!uses_.same(*found->type, *row.type))
+    error(row.type->at, quoted(field.text) + " has another type");
 }
 
 void TypeChecker::param(Row const& row) {

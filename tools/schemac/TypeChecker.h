@@ -32,6 +32,8 @@ class TypeChecker {
   void param(Row const& row);
   void counter(Row const& row);
   void computed(Row const& row);
+  void computedOf(Row const& row, Word const& field);
+  void bound();
 
   Argument const* argument(std::string const& name) const;
   bool isParam(std::string const& name) const;

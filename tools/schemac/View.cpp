@@ -67,17 +67,19 @@ void addShapesUsed(Type const& type, Scope& scope) {
   }
 }
 
-// The stored fields of a value, which its constructor takes.
+// The stored fields of a value.  Its constructor takes them, unless each can be set by itself.
 void addFields(Names const& names, Type const& type, Scope& scope) {
   auto& fields = scope.lists["fields"];
   auto& range = scope.lists["range"];
   for (Row const& row : type.rows) {
-    if (row.shape->name != "field") continue;
+    if (!isFieldOfValue(row)) continue;
     Scope field = names.rowScope(type, row);
     if (row.range) range = field.lists.at("range");
     fields.push_back(std::move(field));
   }
   scope.flag("oneField", fields.size() == 1);
+  scope.flag("single", isSingle(names.symbols, type));
+  scope.flag("takesFields", !fields.empty() && !type.options.count("mutable"));
 }
 
 void addConstructor(Names const& names, Type const& type, Scope& scope) {

@@ -68,6 +68,7 @@ constexpr Shape shapeTable[] = {
      .takesDefault = true,
      .takesRange = true,
      .makes = "$name$ $name$Is $name$_"},
+    {.name = "bound", .blocks = "value", .form = Form::type, .takesRange = true},
     {.name = "operation",
      .blocks = "entity object",
      .form = Form::call,
@@ -103,7 +104,7 @@ constexpr std::string_view objectNames =
     "hasNotificationActive moxMarkedForDeletion moxMarkedForDeletionIs";
 
 constexpr std::string_view valueNames =
-    "$Class$ Fields Tags fwkType _fwkType rangeMessage $class$Type moxInit$module$ "
+    "$Class$ Fields Tags fwkType _fwkType $class$Type moxInit$module$ "
     "Tags::Tags Tags::Mox";
 
 constexpr std::string_view enumNames =
@@ -134,6 +135,7 @@ constexpr Option optionTable[] = {
     {"node", "owns"},
     {"const", "operation"},
     {"ofFields", "computed"},
+    {"of", "computed", Option::Takes::word},
 };
 
 constexpr std::string_view reservedWords =

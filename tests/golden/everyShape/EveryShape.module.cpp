@@ -9,6 +9,9 @@
 #include "everyShape/Shelf.h"
 #include "everyShape/Knob.h"
 #include "everyShape/Level.h"
+#include "everyShape/Hue.h"
+#include "everyShape/Shade.h"
+#include "everyShape/Dial.h"
 #include "everyShape/Heap.h"
 #include "everyShape/Grove.h"
 #include "everyShape/Brook.h"
@@ -25,15 +28,18 @@ constexpr frame::TypeOf used[] = {
 constexpr frame::TypeOf alphabetical[] = {
     Brook::_fwkType,
     Derived::_fwkType,
+    Dial::_fwkType,
     Engine::_fwkType,
     Every::_fwkType,
     Grove::_fwkType,
     Heap::_fwkType,
+    Hue::_fwkType,
     Knob::_fwkType,
     Leaf::_fwkType,
     Level::_fwkType,
     Mix::_fwkType,
     _fwkType_Mood,
+    Shade::_fwkType,
     Shelf::_fwkType,
 };
 
@@ -46,6 +52,9 @@ constexpr frame::TypeRow const* types[] = {
     &shelfRow,
     &knobRow,
     &levelRow,
+    &hueRow,
+    &shadeRow,
+    &dialRow,
     &heapRow,
     &groveRow,
     &brookRow,

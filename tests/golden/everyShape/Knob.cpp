@@ -16,10 +16,6 @@ class Type : public Mox::MoxType {
 
 Mox::MoxType* knobType = nullptr;
 
-constexpr frame::ArgRow constructorArgs[] = {
-    {"turn", "U8"},
-};
-
 constexpr frame::AttributeRow attributeRows[] = {
     {2, "turn", Mox::Builtin<U8>::_fwkType, nullptr, {0x22010F, 0x400}, 2},
     {3, "hash", Mox::Builtin<U32>::_fwkType, nullptr, {0x220007, 0x400}, 0},
@@ -30,14 +26,16 @@ Mox::MoxAttr const* attributeCache[std::size(attributeRows)];
 }  // namespace
 
 frame::TypeRow const knobRow = {"Knob", "everyShape::Knob", frame::TypeKind::value, Knob::_fwkType,
-    nullptr, sizeof(Knob), constructorArgs, attributeRows, attributeCache};
+    nullptr, sizeof(Knob), {}, attributeRows, attributeCache};
 
 Mox::MoxType* Knob::_fwkType() { return frame::descriptor<Type>(knobType, moxInitEveryShape); }
 Mox::MoxType const* Knob::fwkType() const { return _fwkType(); }
 
-Knob::Knob(U8 turn) : turn_(turn) {}
 Knob::Knob(Mox::String8::IteratorConst& at, Mox::String8::IteratorConst const& end) {
   frame::recordParse(Fields::table, this, at, end);
+}
+Knob::Knob(Mox::NboAttrLog::In* in, Mox::StreamBogon) {
+  frame::recordRead(Fields::table, this, *in);
 }
 
 U32 Knob::hash() const { return frame::recordHash(Fields::table, this); }
@@ -51,6 +49,11 @@ Mox::String8 valueToStrep(Knob const& value) {
 }
 std::ostream& operator<<(std::ostream& out, Knob const& value) {
   return out << valueToStrep(value);
+}
+Mox::Ptr<Mox::NboAttrLog::Out> const& operator<<(Mox::Ptr<Mox::NboAttrLog::Out> const& out,
+    Knob const& value) {
+  frame::recordWrite(Knob::Fields::table, out, &value);
+  return out;
 }
 
 }  // namespace everyShape

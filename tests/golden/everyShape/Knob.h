@@ -14,10 +14,11 @@ class Knob {
   struct Tags;
 
   Knob() = default;
-  explicit Knob(U8 turn);
   /// Reads the text form at `at`, keys in any order, and advances.  What the text leaves out keeps
   /// its default.
   Knob(Mox::String8::IteratorConst& at, Mox::String8::IteratorConst const& end);
+  /// Reads the fields in order, as a peer has written them.
+  Knob(Mox::NboAttrLog::In* in, Mox::StreamBogon);
 
   U8 turn() const { return turn_; }
   void turnIs(U8 value) { turn_ = value; }
@@ -35,5 +36,7 @@ class Knob {
 
 Mox::String8 valueToStrep(Knob const& value);
 std::ostream& operator<<(std::ostream& out, Knob const& value);
+Mox::Ptr<Mox::NboAttrLog::Out> const& operator<<(Mox::Ptr<Mox::NboAttrLog::Out> const& out,
+    Knob const& value);
 
 }  // namespace everyShape

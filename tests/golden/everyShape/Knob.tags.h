@@ -12,7 +12,8 @@ struct Knob::Fields {
   static constexpr frame::FieldRow rows[] = {
       {"turn", offsetof(Knob, turn_), frame::FieldType::u8},
   };
-  static constexpr frame::RecordTable table{"Knob", "everyShape::Knob", rows};
+  static constexpr frame::RecordTable table{"Knob", "Value('everyShape::Knob', ** {",
+      " Value ( 'everyShape::Knob' , ** {", rows};
 };
 
 }  // namespace everyShape

@@ -1,8 +1,9 @@
-// everyShape::Level: its descriptor.  Made by schemac from everyShape.schema.
+// everyShape::Level: one line for each operation.  Made by schemac from everyShape.schema.
 #include "everyShape/Level.h"
 
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
+#include "frame/SingleField.h"
 
 namespace everyShape {
 
@@ -34,5 +35,21 @@ frame::TypeRow const levelRow = {"Level", "everyShape::Level", frame::TypeKind::
 
 Mox::MoxType* Level::_fwkType() { return frame::descriptor<Type>(levelType, moxInitEveryShape); }
 Mox::MoxType const* Level::fwkType() const { return _fwkType(); }
+
+Level::Level(U8 number) : value_(number) {
+  frame::requireAtMost(number, 9, "Level::value < 0 or > 9 not allowed");
+}
+Level::Level(Mox::String8::IteratorConst& at,
+    Mox::String8::IteratorConst const& end) : Level(frame::singleParse<U8>(at, end, "value")) {}
+Level::Level(Mox::NboAttrLog::In* in, Mox::StreamBogon) : value_(in->nextInteger<U8>()) {}
+
+Mox::String8 valueToStrep(Level const& value) { return Mox::valueToStrep(value.value()); }
+std::ostream& operator<<(std::ostream& out, Level const& value) {
+  return out << valueToStrep(value);
+}
+Mox::Ptr<Mox::NboAttrLog::Out> const& operator<<(Mox::Ptr<Mox::NboAttrLog::Out> const& out,
+    Level const& value) {
+  return out << value.value();
+}
 
 }  // namespace everyShape

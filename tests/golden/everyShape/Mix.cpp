@@ -48,6 +48,7 @@ Mix::Mix(U8 small, S8 below, U16 medium, U32 large, Mox::String8 const& text) : 
 Mix::Mix(Mox::String8::IteratorConst& at, Mox::String8::IteratorConst const& end) {
   frame::recordParse(Fields::table, this, at, end);
 }
+Mix::Mix(Mox::NboAttrLog::In* in, Mox::StreamBogon) { frame::recordRead(Fields::table, this, *in); }
 
 U32 Mix::hash() const { return frame::recordHash(Fields::table, this); }
 
@@ -62,5 +63,10 @@ Mox::String8 valueToStrep(Mix const& value) {
   return frame::recordText(Mix::Fields::table, &value);
 }
 std::ostream& operator<<(std::ostream& out, Mix const& value) { return out << valueToStrep(value); }
+Mox::Ptr<Mox::NboAttrLog::Out> const& operator<<(Mox::Ptr<Mox::NboAttrLog::Out> const& out,
+    Mix const& value) {
+  frame::recordWrite(Mix::Fields::table, out, &value);
+  return out;
+}
 
 }  // namespace everyShape

@@ -18,6 +18,8 @@ class Mix {
   /// Reads the text form at `at`, keys in any order, and advances.  What the text leaves out keeps
   /// its default.
   Mix(Mox::String8::IteratorConst& at, Mox::String8::IteratorConst const& end);
+  /// Reads the fields in order, as a peer has written them.
+  Mix(Mox::NboAttrLog::In* in, Mox::StreamBogon);
 
   U8 small() const { return small_; }
 
@@ -50,5 +52,7 @@ class Mix {
 
 Mox::String8 valueToStrep(Mix const& value);
 std::ostream& operator<<(std::ostream& out, Mix const& value);
+Mox::Ptr<Mox::NboAttrLog::Out> const& operator<<(Mox::Ptr<Mox::NboAttrLog::Out> const& out,
+    Mix const& value);
 
 }  // namespace everyShape

@@ -16,7 +16,8 @@ struct Mix::Fields {
       {"large", offsetof(Mix, large_), frame::FieldType::u32},
       {"text", offsetof(Mix, text_), frame::FieldType::string},
   };
-  static constexpr frame::RecordTable table{"Mix", "everyShape::Mix", rows};
+  static constexpr frame::RecordTable table{"Mix", "Value('everyShape::Mix', ** {",
+      " Value ( 'everyShape::Mix' , ** {", rows};
 };
 
 }  // namespace everyShape
