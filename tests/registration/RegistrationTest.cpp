@@ -31,7 +31,10 @@ Names qualified(Names names) {
   return names;
 }
 
-Names const kestrelTypes = qualified({"FecCounters", "ChipStatus"});
+Names const kestrelTypes =
+    qualified({"XpSerdesId", "XpPortId", "XpChipPort", "TxEq", "DfeState", "FecCounters",
+               "XpSerdesSmState", "DfeMode", "ConnectionType", "XpPortPcsMode", "XpPortMode",
+               "CoprocessorState", "CoprocessorId", "ChipStatus"});
 Names const manSmTypes = qualified({"TableManSm"});
 Names const helperTypes =
     qualified({"TableSramChunk", "TableTcamChunk", "TableIsmeChunk", "TableMemCollection",
@@ -109,6 +112,90 @@ TEST(RegistrationTest, InheritedAttributesComeFirst) {
     names.emplace_back(entry.value()->name().view());
   EXPECT_EQ(names, (Names{"moxHasAttrLogInterface", "ready", "moxHasAttrLogInterface", "deviceType",
                           "deviceSubType", "tableContextEntry", "portMappingTime"}));
+}
+
+struct ExpectedField {
+  Mox::MoxType const* type;
+  char const* name;
+  Mox::AttributeId id;
+  char const* of;
+  Mox::MoxAttr::AttrFlags flags;
+  U32 introspection;
+};
+
+constexpr Mox::MoxAttr::AttrFlags settable{0x22010F, 0x400};
+constexpr Mox::MoxAttr::AttrFlags fixed{0x220109, 0x40000400};
+constexpr Mox::MoxAttr::AttrFlags computed{0x220001, 0x40000400};
+
+TEST(RegistrationTest, FieldsOfValuesHaveTheirNumbersAndFlags) {
+  using namespace Kestrel;
+  ExpectedField const fields[] = {
+      {XpSerdesId::_fwkType(), "value", 2, "U8", settable, 2},
+      {XpSerdesId::_fwkType(), "hash", 3, "U8", {0x220007, 0x400}, 0},
+      {XpChipPort::_fwkType(), "devId", 2, "U8", fixed, 2},
+      {XpChipPort::_fwkType(), "portId", 3, "U8", fixed, 2},
+      {XpChipPort::_fwkType(), "hash", 4, "U8", computed, 0},
+      {TxEq::_fwkType(), "atten", 2, "S8", fixed, 2},
+      {TxEq::_fwkType(), "pre", 3, "U8", fixed, 2},
+      {TxEq::_fwkType(), "post", 4, "U8", fixed, 2},
+      {DfeState::_fwkType(), "mode", 2, "U8", settable, 2},
+      {DfeState::_fwkType(), "disable", 3, "U8", settable, 2},
+      {DfeState::_fwkType(), "state", 4, "U8", settable, 2},
+      {DfeState::_fwkType(), "status", 5, "U8", settable, 2},
+      {DfeState::_fwkType(), "lf", 6, "U8", settable, 2},
+      {DfeState::_fwkType(), "hf", 7, "U8", settable, 2},
+      {DfeState::_fwkType(), "dc", 8, "U8", settable, 2},
+      {DfeState::_fwkType(), "bw", 9, "U8", settable, 2},
+      {DfeState::_fwkType(), "gain", 10, "U8", settable, 2},
+      {DfeState::_fwkType(), "taps", 11, "Mox::String", settable, 2},
+      {CoprocessorId::_fwkType(), "value", 2, "U32", fixed, 2},
+      {CoprocessorId::_fwkType(), "hash", 3, "U32", computed, 0},
+  };
+  for (ExpectedField const& field : fields) {
+    auto const* found = field.type->attributeById(field.id);
+    ASSERT_TRUE(found) << field.name;
+    EXPECT_EQ(found->name(), Mox::Name(field.name));
+    EXPECT_EQ(found->type()->fullTypeName(), Mox::Name(field.of)) << field.name;
+    EXPECT_EQ(found->flags(), field.flags) << field.name;
+    EXPECT_EQ(found->introspectionFlags(), field.introspection) << field.name;
+  }
+}
+
+TEST(RegistrationTest, ValuesAreConstructedFromTheFieldsThatCantBeSet) {
+  using Texts = std::vector<Mox::Name>;
+  EXPECT_EQ(Kestrel::TxEq::_fwkType()->constructorArgNames(), (Texts{"atten", "pre", "post"}));
+  EXPECT_EQ(Kestrel::TxEq::_fwkType()->constructorArgTypes(), (Texts{"S8", "U8", "U8"}));
+  EXPECT_EQ(Kestrel::XpChipPort::_fwkType()->constructorArgNames(), (Texts{"devId", "portId"}));
+  EXPECT_EQ(Kestrel::DfeState::_fwkType()->constructorArgNames(), Texts{});
+  EXPECT_EQ(Kestrel::XpSerdesId::_fwkType()->constructorArgNames(), Texts{"value"});
+  EXPECT_EQ(Kestrel::CoprocessorId::_fwkType()->constructorArgTypes(), Texts{"U32"});
+}
+
+TEST(RegistrationTest, PortIdHasTheAttributesOfItsBase) {
+  auto const* port = Kestrel::XpPortId::_fwkType();
+  auto const* base = Rye::Central::PortId::_fwkType();
+  EXPECT_EQ(port->base(), base);
+  EXPECT_EQ(port->attributeQ().count(), 2u);
+  for (Mox::AttributeId id : {2, 3})
+    EXPECT_EQ(port->attributeById(id), base->attributeById(id)) << id;
+  EXPECT_EQ(port->constructorArgNames(), std::vector<Mox::Name>{"value"});
+  EXPECT_EQ(port->constructorArgTypes(), std::vector<Mox::Name>{"U16"});
+  EXPECT_EQ(std::count(base->derivedTypeQ().begin(), base->derivedTypeQ().end(), port), 1);
+}
+
+TEST(RegistrationTest, ValuesOfOneNumberNameIt) {
+  EXPECT_EQ(Kestrel::XpSerdesId::_fwkType()->valAttr()->name(), Mox::Name("value"));
+  EXPECT_EQ(Kestrel::XpPortId::_fwkType()->valAttr()->name(), Mox::Name("value"));
+  EXPECT_EQ(Kestrel::CoprocessorId::_fwkType()->valAttr()->name(), Mox::Name("value"));
+  EXPECT_FALSE(Kestrel::TxEq::_fwkType()->valAttr());
+}
+
+TEST(RegistrationTest, EnumeratorsAreAttributesByTheirValue) {
+  auto const* mode = Kestrel::_fwkType_XpPortMode();
+  EXPECT_TRUE(mode->isEnumType() && mode->isValue());
+  EXPECT_EQ(mode->attributeQ().count(), 10u);
+  EXPECT_EQ(mode->attributeById(9)->name(), Mox::Name("portMode100G"));
+  EXPECT_EQ(mode->attributeById(9)->type(), mode);
 }
 
 TEST(RegistrationTest, TableManSmHasNoKindAndNoBase) {
