@@ -19,20 +19,19 @@ typename A::Value ownNew(typename A::Owner& owner, Args const&... args) {
   return child;
 }
 
-/// The child under that name.  One that bears it already is kept whatever the further arguments,
-/// and the version alone steps; another one is detached and replaced: the version steps twice, and
-/// the notifiees hear of it once.  Raises `RangeException` "null ValidPtr" when one of them has
-/// taken the new child away.
+/// The child that was made of these arguments, or passes for it: the tag says which child is kept,
+/// and whether the version steps then.  Another one is detached and replaced: the version steps
+/// twice, and the notifiees hear of it once.  Raises `RangeException` "null ValidPtr" when one of
+/// them has taken the new child away.
 template <EntityAttribute A, class... Args>
-typename A::Value ownIs(typename A::Owner& owner, Mox::Name const& name, Args const&... args) {
+typename A::Value ownIs(typename A::Owner& owner, Args const&... args) {
   Held const held(owner);
   auto& stored = A::field(owner);
-  if (stored) {
-    owner.moxVersionInc();
-    if (stored->name() == name) return stored;
-    stored->parentIs(nullptr);
-  }
-  stored = ownNew<A>(owner, name, args...);
+  bool const kept = stored && A::isKept(*stored, args...);
+  if (stored && (!kept || A::keepingSteps)) owner.moxVersionInc();
+  if (kept) return stored;
+  if (stored) stored->parentIs(nullptr);
+  stored = ownNew<A>(owner, args...);
   changed<A>(owner);
   requireChild(stored.ptr());
   return stored;

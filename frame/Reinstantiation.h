@@ -5,6 +5,7 @@
 #include "Mox/Strep.h"
 
 #include <type_traits>
+#include <typeinfo>
 
 namespace frame {
 
@@ -14,7 +15,8 @@ namespace frame {
 [[noreturn]] void reinstantiated(Mox::String8 const& name, char const* parameter,
                                  Mox::String8 const& asked, Mox::String8 const& present);
 
-/// How a parameter is shown.  Truth values go through the unsigned conversion, as 1 and 0.
+/// How a parameter is shown: an entity by its type and name, a truth value by the unsigned
+/// conversion, as 1 and 0.
 template <class T>
 Mox::String8 parameterText(T const& value) {
   using Mox::valueToStrep;
@@ -24,13 +26,16 @@ Mox::String8 parameterText(T const& value) {
     return valueToStrep(value);
 }
 
-/// Compares one constructor parameter of the child called `name`, given as text; raises at a
-/// difference.
 template <class T>
-void requireSame(Mox::String8 const& name, char const* parameter, T const& asked,
-                 T const& present) {
+Mox::String8 parameterText(Mox::Ptr<T> const& value) {
+  return Mox::valueToStrepOfRawPtr(value.ptr(), typeid(T));
+}
+
+/// Compares one constructor parameter of the child under `key`; raises at a difference.
+template <class Key, class T>
+void requireSame(Key const& key, char const* parameter, T const& asked, T const& present) {
   if (!(asked == present))
-    reinstantiated(name, parameter, parameterText(asked), parameterText(present));
+    reinstantiated(parameterText(key), parameter, parameterText(asked), parameterText(present));
 }
 
 }  // namespace frame

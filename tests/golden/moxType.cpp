@@ -6,6 +6,9 @@ namespace {
 
 [[gnu::section(".mox.type"), gnu::used, gnu::retain, gnu::aligned(1)]] char const names[] =
     "everyShape::Engine\0"
+    "everyShape::Bush\0"
+    "everyShape::Branch\0"
+    "everyShape::Stem\0"
     "everyShape::Brook\0"
     "everyShape::Grove\0"
     "everyShape::Heap\0"

@@ -33,6 +33,33 @@ TEST(CheckerTest, ASoundSchemaHasNoErrors) {
 
 // Files and names.
 
+TEST(CheckerTest, AKeyThatTheBaseBearsIsTheBasesKeyToo) {
+  std::string const derived = "entity B (port U8) : A key port\nend\n";
+  EXPECT_EQ(errors("entity A (port U8)\n258 param port U8\nend\n" + derived),
+            "s:5:28: error: \"A\" bears \"port\", so it needs the option \"key port\" too\n");
+  EXPECT_EQ(errors("entity A (port U8) key port\n258 param port U8\nend\n" + derived), "");
+  EXPECT_EQ(errors("extern entity A header h\n" + derived), "");
+}
+
+TEST(CheckerTest, APresetIsAScalarOfABase) {
+  auto const fault = [](std::string const& base, std::string const& row) {
+    return errors(
+        "entity A (name Mox::Name)\n258 scalar a U8\n259 ref b A\nend\n"
+        "entity B (name Mox::Name)" +
+        base + "\n" + row + "\nend\n");
+  };
+  EXPECT_EQ(fault(" : A", "- preset a U8 = 1"), "");
+  EXPECT_EQ(fault("", "- preset a U8 = 1"),
+            "s:7:1: error: a preset needs a base that bears \"a\"\n");
+  EXPECT_EQ(fault(" : A", "- preset a U8"), "s:7:1: error: a preset needs a value, unlike \"a\"\n");
+  EXPECT_EQ(fault(" : A", "- preset a U32 = 1"),
+            "s:7:12: error: \"a\" has another type in \"A\"\n");
+  EXPECT_EQ(fault(" : A", "- preset b U8 = 1"), "s:7:1: error: no base has a scalar \"b\"\n");
+  EXPECT_EQ(fault(" : A", "- preset a U8 = 256"),
+            "s:7:17: error: \"256\" is outside of 0 to 255\n");
+  EXPECT_EQ(fault(" : A", "386 preset a U8 = 1"), "s:7:1: error: a preset has no number\n");
+}
+
 TEST(CheckerTest, AFileNamesItsModule) {
   Diagnostics diagnostics;
   check(story::builtin(), {story::parsed("enum X\n0 a\nend\n")}, diagnostics);
@@ -215,7 +242,7 @@ TEST(CheckerTest, ABoundIsOfTheFirstFieldOfTheBase) {
 TEST(CheckerTest, AComputedRowReadsAsAFieldOfItsType) {
   EXPECT_EQ(errors("value X\n2 a U8\n3 b U8\n4 computed hash U8 of b\nend\n"), "");
   EXPECT_EQ(errors("value X\n2 a U8\n3 computed hash U8 of hash\nend\n"),
-            "s:4:23: error: \"X\" has no field \"hash\"\n");
+            "s:4:23: error: \"X\" has no field or parameter \"hash\"\n");
   EXPECT_EQ(errors("value X\n2 a U8\n3 computed hash U32 of a\nend\n"),
             "s:4:17: error: \"a\" has another type\n");
 }

@@ -20,6 +20,11 @@ bool hasKey(Type const& type, Word const& attribute) {
 bool isOwning(Row const& row) { return row.shape->takesArguments; }
 bool isKeptByKey(Row const& row) { return row.shape->name == "owns"; }
 
+// Whether a child that exists is asked for its constructor parameters.
+bool isCompared(Row const& row) {
+  return isKeptByKey(row) ? !row.options.count("keepFirst") : row.options.count("compared") != 0;
+}
+
 // Ordered collections alone do without a hash.
 bool isHashed(Row const& row) { return !row.options.count("ordered"); }
 
@@ -116,10 +121,9 @@ void ElementChecker::arguments(Row const& row, Symbol const& child) {
 }
 
 void ElementChecker::constructorOf(Row const& row, Arguments const& arguments) {
-  if (isKeptByKey(row)) {
+  if (isCompared(row))
     for (Argument const& each : arguments) comparable(row, each);
-    return;
-  }
+  if (isKeptByKey(row)) return;
   Symbol const* first = arguments.empty() ? nullptr : uses_.find(arguments.front().type);
   if (!first || first->name != "Mox::Name")
     error(row.type->at,
@@ -129,18 +133,18 @@ void ElementChecker::constructorOf(Row const& row, Arguments const& arguments) {
 }
 
 void ElementChecker::comparable(Row const& row, Argument const& argument) {
-  if (row.options.count("keepFirst") || argument.name == row.by->text) return;
+  if (row.by && argument.name == row.by->text) return;
   Symbol const* type = uses_.find(argument.type);
   if (!type) return;
-  bool pointer = argument.type.isPointer || type->name == "VoidPtr" ||
-                 hasWord(countedKinds, kindName(type->kind));
-  if (pointer)
-    error(row.at, "parameter " + quoted(argument.name) +
-                      " is a pointer, which isn't compared, so " + quoted(row.name) +
-                      " needs the option \"keepFirst\"");
+  std::string const remedy = ", so " + quoted(row.name) +
+                             (isKeptByKey(row) ? " needs the option \"keepFirst\""
+                                               : " can't have the option \"compared\"");
+  if (argument.type.isPointer || type->name == "VoidPtr")
+    error(row.at, "parameter " + quoted(argument.name) + " is a raw pointer, which isn't compared" +
+                      remedy);
   else if (hasWord(namesInComparison, argument.name))
-    error(row.at, "parameter " + quoted(argument.name) + " can't be compared under that name, so " +
-                      quoted(row.name) + " needs the option \"keepFirst\"");
+    error(row.at,
+          "parameter " + quoted(argument.name) + " can't be compared under that name" + remedy);
 }
 
 }  // namespace schemac

@@ -72,12 +72,27 @@ TEST(ElementCheckerTest, ParametersOfAKeptChildAreCompared) {
   std::string const head = "entity L (name Mox::Name, ";
   std::string const pointer = head + "p U8*) key name\n258 param p U8*\nend\n";
   EXPECT_EQ(fault(pointer, "owns a L by name"),
-            "parameter \"p\" is a pointer, which isn't compared, so \"a\" needs the option "
+            "parameter \"p\" is a raw pointer, which isn't compared, so \"a\" needs the option "
             "\"keepFirst\"\n");
   EXPECT_EQ(fault(pointer, "owns a L by name keepFirst"), "");
   EXPECT_EQ(fault(head + "child U8) key name\n258 param child U8\nend\n", "owns a L by name"),
             "parameter \"child\" can't be compared under that name, so \"a\" needs the option "
             "\"keepFirst\"\n");
+}
+
+TEST(ElementCheckerTest, EntitiesAreComparedAsPointers) {
+  EXPECT_EQ(fault("entity K (name Mox::Name)\nend\n"
+                  "entity L (name Mox::Name, p K) key name\n258 param p K\nend\n",
+                  "owns a L by name"),
+            "");
+}
+
+TEST(ElementCheckerTest, ParametersOfAComparedChildAreComparable) {
+  std::string const head = "entity L (name Mox::Name, p U8*)\n258 param p U8*\nend\n";
+  EXPECT_EQ(fault(head, "own a L compared"),
+            "parameter \"p\" is a raw pointer, which isn't compared, so \"a\" can't have the "
+            "option \"compared\"\n");
+  EXPECT_EQ(fault(head, "own a L"), "");
 }
 
 }  // namespace

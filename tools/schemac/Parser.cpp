@@ -151,8 +151,7 @@ class Parser {
     result.at = cursor_.peek().at;
     result.id = number();
     result.shape = shape(kind);
-    if (result.id == noNumber && result.shape->form != Form::call)
-      throw LineError{result.at, "only an operation can do without a number"};
+    numbering(result);
     result.name = cursor_.name("the name of the row").text;
     form(result);
     if (result.shape->takesDefault && cursor_.takeIfMark("="))
@@ -162,6 +161,14 @@ class Parser {
     result.options = options(result.shape->name);
     result.doc = docOfLine();
     return result;
+  }
+
+  static void numbering(Row const& row) {
+    Numbering const numbering = row.shape->numbering;
+    if (row.id == noNumber && numbering == Numbering::always)
+      throw LineError{row.at, "only an operation or a preset can do without a number"};
+    if (row.id != noNumber && numbering == Numbering::never)
+      throw LineError{row.at, "a " + std::string(row.shape->name) + " has no number"};
   }
 
   long long number() {

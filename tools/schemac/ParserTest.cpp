@@ -189,7 +189,7 @@ TEST(ParserTest, RefusesRowsWithoutNumber) {
   EXPECT_EQ(parseErrors("entity X\nscalar x U8\nend\n"),
             "s:2:1: error: expected a row (its number first) or \"end\", found \"scalar\"\n");
   EXPECT_EQ(parseErrors("entity X\n- scalar x U8\nend\n"),
-            "s:2:1: error: only an operation can do without a number\n");
+            "s:2:1: error: only an operation or a preset can do without a number\n");
   EXPECT_EQ(parseErrors("enum X\n1234567890 a\nend\n"),
             "s:2:1: error: expected a row (its number first) or \"end\", found \"1234567890\"\n");
 }

@@ -50,7 +50,7 @@ inline constexpr long long noNumber = -1;
 
 /// One attribute, field, enumerator or operation.
 struct Row {
-  long long id = 0;  ///< `noNumber` for an operation that is no attribute
+  long long id = 0;  ///< `noNumber` for what is no attribute
   Shape const* shape = nullptr;
   std::string name;
   std::optional<TypeUse> type;  ///< of the value or element; of an operation's result

@@ -71,9 +71,16 @@ void TypeChecker::constructor() {
 
 void TypeChecker::keyOption() {
   auto key = type_.options.find("key");
-  if (key != type_.options.end() && !argument(key->second.text))
-    error(key->second.at,
-          quoted(key->second.text) + " is no constructor parameter of " + quoted(type_.name));
+  if (key == type_.options.end()) return;
+  std::string const& name = key->second.text;
+  if (!argument(name))
+    error(key->second.at, quoted(name) + " is no constructor parameter of " + quoted(type_.name));
+  Type const* base = symbols_.ownBase(type_);
+  if (!base || name == "name" || isParam(name)) return;
+  auto baseKey = base->options.find("key");
+  if (baseKey == base->options.end() || baseKey->second.text != name)
+    error(key->second.at, quoted(base->name) + " bears " + quoted(name) +
+                              ", so it needs the option \"key " + name + "\" too");
 }
 
 void TypeChecker::content() {
@@ -135,6 +142,7 @@ void TypeChecker::row(Row const& row) {
   param(row);
   counter(row);
   computed(row);
+  preset(row);
   checkDefault(uses_, row, diagnostics_);
   checkRange(uses_, type_, row, diagnostics_);
   ElementChecker(uses_, diagnostics_).row(row);
@@ -149,7 +157,9 @@ void TypeChecker::rowTypes(Row const& row) {
   if (row.type) type = uses_.typed(*row.type, any ? anyKind : counted ? countedKinds : plainKinds);
   // A reference needs but a name; everything else needs the whole type.
   bool reference = shape == "ref" || shape == "refs" || shape == "operation";
-  if (type && type->type && !reference && type->type->at.line >= type_.at.line &&
+  // The class is whole where its own reads are compiled.
+  bool itself = shape == "param" && type && type->type == &type_;
+  if (type && type->type && !reference && !itself && type->type->at.line >= type_.at.line &&
       type->kind != Kind::enumeration)
     error(row.type->at, quoted(row.type->name) + " must stand above " + quoted(type_.name));
   if (type && row.type->isPointer && (!any || type_.kind == Kind::value))
@@ -192,11 +202,11 @@ void TypeChecker::computed(Row const& row) {
 
 void TypeChecker::computedOf(Row const& row, Word const& field) {
   auto const isMeant = [&](Row const& each) {
-    return each.name == field.text && each.shape->name == "field";
+    return each.name == field.text && hasWord("field param", each.shape->name);
   };
   auto const found = std::ranges::find_if(type_.rows, isMeant);
   if (found == type_.rows.end())
-    error(field.at, quoted(type_.name) + " has no field " + quoted(field.text));
+    error(field.at, quoted(type_.name) + " has no field or parameter " + quoted(field.text));
   else if (!uses_.same(*found->type, *row.type))
     error(row.type->at, quoted(field.text) + " has another type");
 }
@@ -213,6 +223,26 @@ void TypeChecker::param(Row const& row) {
 void TypeChecker::counter(Row const& row) {
   if (row.shape->name == "counter" && uses_.find(*row.type) && !uses_.isInteger(*row.type))
     error(row.type->at, "a counter counts in an integer, unlike " + quoted(row.type->name));
+}
+
+// What a base from elsewhere bears isn't known; one that stands below is reported as that.
+void TypeChecker::preset(Row const& row) {
+  if (row.shape->name != "preset") return;
+  if (!row.defaultValue) error(row.at, "a preset needs a value, unlike " + quoted(row.name));
+  if (!type_.base) return error(row.at, "a preset needs a base that bears " + quoted(row.name));
+  auto const bears = [&row](Row const& each) {
+    return each.name == row.name && hasWord("scalar counter", each.shape->name);
+  };
+  for (Type const* level = &type_; level->base;) {
+    Type const* base = symbols_.ownBase(*level);
+    if (!base || base->at.line >= level->at.line) return;
+    auto const found = std::ranges::find_if(base->rows, bears);
+    if (found != base->rows.end() && uses_.same(*found->type, *row.type)) return;
+    if (found != base->rows.end())
+      return error(row.type->at, quoted(row.name) + " has another type in " + quoted(base->name));
+    level = base;
+  }
+  error(row.at, "no base has a scalar " + quoted(row.name));
 }
 
 Argument const* TypeChecker::argument(std::string const& name) const {

@@ -34,6 +34,7 @@ class TypeChecker {
   void computed(Row const& row);
   void computedOf(Row const& row, Word const& field);
   void bound();
+  void preset(Row const& row);
 
   Argument const* argument(std::string const& name) const;
   bool isParam(std::string const& name) const;

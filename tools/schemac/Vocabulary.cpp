@@ -72,7 +72,13 @@ constexpr Shape shapeTable[] = {
     {.name = "operation",
      .blocks = "entity object",
      .form = Form::call,
+     .numbering = Numbering::maybe,
      .makes = "$name$ ::$name$Args"},
+    {.name = "preset",
+     .blocks = "entity",
+     .form = Form::type,
+     .numbering = Numbering::never,
+     .takesDefault = true},
     {.name = "enumerator", .blocks = "enum", .form = Form::nothing, .makes = "$name$"},
 };
 
@@ -80,7 +86,7 @@ constexpr std::string_view entityNames =
     // What the header makes of every entity, and what its bodies look up.
     "$Class$ Ptr PtrConst NotifieeConst Notifiee _Type Tags fwkType _fwkType moxNotifiees "
     "notifiees_ moxKey moxNext_ attributeRows $class$Type moxInit$module$ ::constructorArgs "
-    "Tags::Tags Tags::Mox Tags::NotifieeConst valueToStrep "
+    "Tags::Tags Tags::Mox Tags::NotifieeConst "
     // Mox::Entity
     "name parent parentIs parentAttr parentAttrId parentAttrIdIs uriPath fullName attributeString "
     "moxNotifieeAdapterIs handleParent moxNboAttrLogSa moxHasAttrLogInterface "
@@ -123,6 +129,7 @@ constexpr Option optionTable[] = {
     {"byReference", "extern value"},
     {"key", "entity", Option::Takes::word},
     {"root", "entity object"},
+    {"virtual", "entity"},
     {"creator", "object"},
     {"stateMachine", "object"},
     {"ordered", "value map refs"},
@@ -131,6 +138,8 @@ constexpr Option optionTable[] = {
     {"customParser", "value"},
     {"customOrder", "value"},
     {"custom", "scalar counter map ref refs own owns"},
+    {"compared", "own"},
+    {"quiet", "own"},
     {"keepFirst", "owns"},
     {"node", "owns"},
     {"const", "operation"},

@@ -25,11 +25,15 @@ enum class Form {
   call      ///< arguments in parentheses, then maybe "->" and a result type
 };
 
+/// Whether rows of a shape bear a number.
+enum class Numbering { always, maybe, never };
+
 /// A shape of rows.
 struct Shape {
   std::string_view name;
   std::string_view blocks;  ///< kinds of types that it may stand in, as words
   Form form;
+  Numbering numbering = Numbering::always;
   bool takesDefault = false;
   bool takesRange = false;
   bool takesArguments = false;

@@ -188,6 +188,11 @@ struct Every::Tags {
     static constexpr Mox::NotifieeLevel const* level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onBest;
     static Value& field(Owner& owner) { return owner.best_; }
+    /// Whether the version steps when the child is kept.
+    static constexpr bool keepingSteps = true;
+    static bool isKept(Child const& child, Mox::Name const& name, auto const&...) {
+      return child.name() == name;
+    }
   };
 
   struct Leaves {
@@ -206,7 +211,7 @@ struct Every::Tags {
     static Mox::Ptr<Node> nodeFor(Mox::Ptr<Child> const& child) { return child; }
     static Key keyOf(Child const& child) { return child.name(); }
     static void requireSame(Child const& child, U8 lane, ::everyShape::Mix mix) {
-      Mox::String8 const key = Mox::valueToStrep(child.name());
+      Key const key = child.name();
       frame::requireSame(key, "lane", lane, child.lane());
       frame::requireSame(key, "mix", mix, child.mix());
     }

@@ -15,6 +15,9 @@
 #include "everyShape/Heap.h"
 #include "everyShape/Grove.h"
 #include "everyShape/Brook.h"
+#include "everyShape/Stem.h"
+#include "everyShape/Branch.h"
+#include "everyShape/Bush.h"
 #include "everyShape/Engine.h"
 
 namespace everyShape {
@@ -26,7 +29,9 @@ constexpr frame::TypeOf used[] = {
 };
 
 constexpr frame::TypeOf alphabetical[] = {
+    Branch::_fwkType,
     Brook::_fwkType,
+    Bush::_fwkType,
     Derived::_fwkType,
     Dial::_fwkType,
     Engine::_fwkType,
@@ -41,6 +46,7 @@ constexpr frame::TypeOf alphabetical[] = {
     _fwkType_Mood,
     Shade::_fwkType,
     Shelf::_fwkType,
+    Stem::_fwkType,
 };
 
 constexpr frame::TypeRow const* types[] = {
@@ -58,6 +64,9 @@ constexpr frame::TypeRow const* types[] = {
     &heapRow,
     &groveRow,
     &brookRow,
+    &stemRow,
+    &branchRow,
+    &bushRow,
     &engineRow,
 };
 

@@ -25,6 +25,9 @@ extern frame::TypeRow const dialRow;
 extern frame::TypeRow const heapRow;
 extern frame::TypeRow const groveRow;
 extern frame::TypeRow const brookRow;
+extern frame::TypeRow const stemRow;
+extern frame::TypeRow const branchRow;
+extern frame::TypeRow const bushRow;
 extern frame::TypeRow const engineRow;
 
 }  // namespace everyShape

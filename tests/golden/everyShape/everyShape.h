@@ -1,7 +1,9 @@
 // All types of the module EveryShape.  Made by schemac from everyShape.schema.
 #pragma once
 
+#include "everyShape/Branch.h"
 #include "everyShape/Brook.h"
+#include "everyShape/Bush.h"
 #include "everyShape/Derived.h"
 #include "everyShape/Dial.h"
 #include "everyShape/Engine.h"
@@ -16,3 +18,4 @@
 #include "everyShape/Mood.h"
 #include "everyShape/Shade.h"
 #include "everyShape/Shelf.h"
+#include "everyShape/Stem.h"
