@@ -31,10 +31,40 @@ Names qualified(Names names) {
   return names;
 }
 
-Names const kestrelTypes =
-    qualified({"XpSerdesId", "XpPortId", "XpChipPort", "TxEq", "DfeState", "FecCounters",
-               "XpSerdesSmState", "DfeMode", "ConnectionType", "XpPortPcsMode", "XpPortMode",
-               "CoprocessorState", "CoprocessorId", "ChipStatus"});
+Names const kestrelTypes = qualified({"XpSerdesId",
+                                      "XpPortId",
+                                      "XpChipPort",
+                                      "TxEq",
+                                      "DfeState",
+                                      "FecCounters",
+                                      "XpSerdesSmState",
+                                      "DfeMode",
+                                      "ConnectionType",
+                                      "XpSerdesSmConfig",
+                                      "XpSerdesSmStatus",
+                                      "PhyXp80Config",
+                                      "PhyXp80Status",
+                                      "PhyXp80StatusDir",
+                                      "PhyXp80ConfigDir",
+                                      "PhyXp80StatusPtrDir",
+                                      "PhyXp80ConfigPtrDir",
+                                      "XpPortPcsMode",
+                                      "XpPortMode",
+                                      "XpPortList",
+                                      "XpPortGroup",
+                                      "PortHwConfig",
+                                      "PortHwStatus",
+                                      "ChipHwConfig",
+                                      "ChipHwStatus",
+                                      "SliceHwStatus",
+                                      "SliceHwConfig",
+                                      "AllChipHwConfig",
+                                      "ChipConfig",
+                                      "CoprocessorState",
+                                      "CoprocessorId",
+                                      "CoprocessorStatus",
+                                      "CoprocessorStatusDir",
+                                      "ChipStatus"});
 Names const manSmTypes = qualified({"TableManSm"});
 Names const helperTypes =
     qualified({"TableSramChunk", "TableTcamChunk", "TableIsmeChunk", "TableMemCollection",
@@ -90,14 +120,104 @@ TEST(RegistrationTest, DescriptorsAreImmortalAndStandInTheirBasesQueue) {
   EXPECT_EQ(std::count(queue.begin(), queue.end(), fec), 1);
 }
 
-TEST(RegistrationTest, RootsAreMadeByFactoryAndByDescriptor) {
-  auto const made = Kestrel::chipStatusFactory("chip0");
-  EXPECT_EQ(made->name(), Mox::Name("chip0"));
+// A root of that type, by its factory and by its descriptor.
+template <class Root>
+void expectRoot(Mox::Ptr<Root> (*factory)(Mox::Name const&)) {
+  SCOPED_TRACE(Root::_fwkType()->fullTypeName().charPtr());
+  auto const made = factory("root0");
+  EXPECT_EQ(made->name(), Mox::Name("root0"));
   EXPECT_FALSE(made->parent());
-  auto const other = Kestrel::ChipStatus::_fwkType()->newEntity("chip1", nullptr);
-  EXPECT_EQ(other->name(), Mox::Name("chip1"));
-  EXPECT_TRUE(Mox::ptrCast<Kestrel::ChipStatus>(other));
-  EXPECT_FALSE(Kestrel::FecCounters::_fwkType()->newEntity("fec", nullptr));
+  auto const other = Root::_fwkType()->newEntity("root1", nullptr);
+  ASSERT_TRUE(other);
+  EXPECT_EQ(other->name(), Mox::Name("root1"));
+  EXPECT_TRUE(Mox::ptrCast<Root>(other));
+  EXPECT_FALSE(other->parent());
+}
+
+TEST(RegistrationTest, RootsAreMadeByFactoryAndByDescriptor) {
+  expectRoot(Kestrel::chipConfigFactory);
+  expectRoot(Kestrel::chipHwConfigFactory);
+  expectRoot(Kestrel::chipHwStatusFactory);
+  expectRoot(Kestrel::chipStatusFactory);
+  expectRoot(Kestrel::allChipHwConfigFactory);
+  expectRoot(Kestrel::sliceHwConfigFactory);
+  expectRoot(Kestrel::sliceHwStatusFactory);
+  expectRoot(Kestrel::coprocessorStatusDirFactory);
+  expectRoot(Kestrel::phyXp80ConfigDirFactory);
+  expectRoot(Kestrel::phyXp80ConfigPtrDirFactory);
+  expectRoot(Kestrel::phyXp80StatusDirFactory);
+  expectRoot(Kestrel::phyXp80StatusPtrDirFactory);
+}
+
+TEST(RegistrationTest, RootsByNumberAndChildrenAreNotMadeByDescriptor) {
+  EXPECT_EQ(Kestrel::portHwConfigFactory(3)->portId(), 3u);
+  EXPECT_TRUE(Kestrel::portHwStatusFactory(Kestrel::XpPortId(3))->portId() == Kestrel::XpPortId(3));
+  for (auto const* type :
+       {Kestrel::PortHwConfig::_fwkType(), Kestrel::PortHwStatus::_fwkType(),
+        Kestrel::FecCounters::_fwkType(), Kestrel::XpSerdesSmConfig::_fwkType(),
+        Kestrel::XpSerdesSmStatus::_fwkType(), Kestrel::PhyXp80Config::_fwkType(),
+        Kestrel::PhyXp80Status::_fwkType(), Kestrel::XpPortList::_fwkType(),
+        Kestrel::XpPortGroup::_fwkType(), Kestrel::CoprocessorStatus::_fwkType()})
+    EXPECT_FALSE(type->newEntity("name", nullptr)) << type->fullTypeName();
+}
+
+// The types of the keys of those that live in keyed collections, as their own level has them.
+TEST(RegistrationTest, ElementsOfCollectionsTellTheirKey) {
+  Names keys;
+  for (frame::TypeRow const* row : Kestrel::moxModuleKestrel().types())
+    for (frame::AttributeRow const& attribute : row->attributes)
+      if (attribute.id == 0 && row->kind == frame::TypeKind::entity)
+        keys.push_back(std::string(row->name) + " " +
+                       std::string(attribute.type()->fullTypeName().view()));
+  EXPECT_EQ(keys,
+            (Names{"PhyXp80Config Mox::Name", "PhyXp80Status Mox::Name", "XpPortList Mox::Name",
+                   "XpPortGroup Mox::Name", "PortHwConfig U16", "PortHwStatus Kestrel::XpPortId",
+                   "ChipHwStatus Mox::Name", "CoprocessorStatus Mox::Name"}));
+}
+
+// "key attribute: argument type, ..." of an attribute that makes its elements.
+std::string instantiation(Mox::MoxType const* type, Mox::AttributeId id) {
+  auto const* const attribute = type->attributeById(id);
+  std::string text = std::string(attribute->keyAttr().view()) + ":";
+  auto const& types = attribute->constructorArgTypes();
+  for (std::size_t i = 0; i < types.size(); ++i)
+    text += " " + std::string(attribute->constructorArgNames()[i].view()) + " " +
+            std::string(types[i].view()) + ",";
+  return text;
+}
+
+TEST(RegistrationTest, InstantiatingAttributesTellKeyAndArguments) {
+  using namespace Kestrel;
+  EXPECT_EQ(instantiation(PhyXp80Status::_fwkType(), 390), ": name Mox::Name,");
+  EXPECT_EQ(instantiation(PhyXp80Status::_fwkType(), 421), ": name Mox::Name, serdesId U8,");
+  EXPECT_EQ(instantiation(PhyXp80ConfigDir::_fwkType(), 258),
+            "name: name Mox::Name, opalDesc MdioOpal::OpalDesc, api Mox::String, minBlobVersion "
+            "Mox::String, lane U8, serdesId Kestrel::XpSerdesId, txLane U8, rxLane U8, txPolarity "
+            "bool, rxPolarity bool, txEq10 Kestrel::TxEq, txEqLimiting25 Kestrel::TxEq, "
+            "txEqLinear25 Kestrel::TxEq,");
+  EXPECT_EQ(instantiation(PhyXp80StatusDir::_fwkType(), 258),
+            "name: name Mox::Name, mdioClause Hardware::Phy::MdioClause, phyConfig "
+            "Hardware::Phy::PhyConfig, ethIntfStatus Interface::EthPhyIntfStatus, lane U8, "
+            "serdesId Kestrel::XpSerdesId,");
+  EXPECT_EQ(instantiation(ChipHwConfig::_fwkType(), 386),
+            ": name Mox::Name, offset U32, size U32, path Mox::String, deviceName Mox::Name, "
+            "driver Mox::String, pciAddress Inventory::PciAddress, pciId Inventory::PciId, "
+            "writable bool,");
+  EXPECT_EQ(instantiation(AllChipHwConfig::_fwkType(), 259), "portId: portId U16,");
+  EXPECT_EQ(instantiation(ChipHwStatus::_fwkType(), 258), "portId: portId Kestrel::XpPortId,");
+  EXPECT_EQ(instantiation(CoprocessorStatus::_fwkType(), 261),
+            ": name Mox::Name, type Fru::HamType, parentHam Fru::Ham, offset U32, size U32, path "
+            "Mox::String,");
+  EXPECT_EQ(instantiation(CoprocessorStatusDir::_fwkType(), 258),
+            "name: name Mox::Name, coprocessorId Kestrel::CoprocessorId,");
+}
+
+TEST(RegistrationTest, ReferencesByTheirOwnKeyNameIt) {
+  using namespace Kestrel;
+  EXPECT_EQ(instantiation(ChipHwConfig::_fwkType(), 390), "name:");
+  EXPECT_EQ(instantiation(ChipHwConfig::_fwkType(), 396), "serdesId:");
+  EXPECT_EQ(instantiation(ChipHwConfig::_fwkType(), 388), ":");
+  EXPECT_EQ(instantiation(PhyXp80Status::_fwkType(), 419), ":");
 }
 
 TEST(RegistrationTest, OfTheTraceHandlesTheSdksAloneIsMadeAtLoad) {
