@@ -80,7 +80,7 @@ void layPhysOut(Slice const& slice) {
 void layChipOut(Slice const& slice) {
   auto const hardware = slice.chip->chipHwConfigIs("chip0");
   hardware->hamIs("ham0", 0, 0x100000, "/dev/chip0", "chip0", "pci",
-                  Inventory::PciAddress(0, 1, 0, 0), Inventory::PciId(0x1d0f, 0x80), true);
+                  Inventory::PciAddress(0, 1, 0, 0), Inventory::PciId(1, 0x80), true);
   auto const status = slice.status->chipStatusIs("chip0");
   for (U8 lane = 0; lane < lanes; ++lane) {
     hardware->serdesIs(slice.phyConfigs->phyConfig(laneName(lane)));

@@ -251,7 +251,7 @@ TEST(RegistrationTest, FieldsOfValuesHaveTheirNumbersAndFlags) {
   using namespace Kestrel;
   ExpectedField const fields[] = {
       {XpSerdesId::_fwkType(), "value", 2, "U8", settable, 2},
-      {XpSerdesId::_fwkType(), "hash", 3, "U8", {0x220007, 0x400}, 0},
+      {XpSerdesId::_fwkType(), "hash", 3, "U32", {0x220007, 0x400}, 0},
       {XpChipPort::_fwkType(), "devId", 2, "U8", fixed, 2},
       {XpChipPort::_fwkType(), "portId", 3, "U8", fixed, 2},
       {XpChipPort::_fwkType(), "hash", 4, "U8", computed, 0},

@@ -243,8 +243,9 @@ TEST(CheckerTest, AComputedRowReadsAsAFieldOfItsType) {
   EXPECT_EQ(errors("value X\n2 a U8\n3 b U8\n4 computed hash U8 of b\nend\n"), "");
   EXPECT_EQ(errors("value X\n2 a U8\n3 computed hash U8 of hash\nend\n"),
             "s:4:23: error: \"X\" has no field or parameter \"hash\"\n");
-  EXPECT_EQ(errors("value X\n2 a U8\n3 computed hash U32 of a\nend\n"),
-            "s:4:17: error: \"a\" has another type\n");
+  EXPECT_EQ(errors("value X\n2 a U8\n3 computed hash U32 of a\nend\n"), "");
+  EXPECT_EQ(errors("value X\n2 a U32\n3 computed hash U8 of a\nend\n"),
+            "s:4:17: error: \"U8\" doesn't hold \"a\"\n");
 }
 
 TEST(CheckerTest, TextParserAndOrderOfOneNumberAreGenerated) {

@@ -97,6 +97,13 @@ void checkDefault(TypeUses const& uses, Row const& row, Diagnostics& diagnostics
   if (!fault.empty()) diagnostics.error(row.defaultValue->at, fault);
 }
 
+bool holds(TypeUses const& uses, TypeUse const& wide, TypeUse const& narrow) {
+  if (!uses.isInteger(wide) || !uses.isInteger(narrow)) return false;
+  Bounds const outer = boundsOf(*uses.find(wide)).value_or(anyInteger);
+  Bounds const inner = boundsOf(*uses.find(narrow)).value_or(anyInteger);
+  return outer.least <= inner.least && inner.most <= outer.most;
+}
+
 void checkRange(TypeUses const& uses, Type const& type, Row const& row, Diagnostics& diagnostics) {
   Symbol const* of = row.range ? uses.find(*row.type) : nullptr;
   if (!of) return;

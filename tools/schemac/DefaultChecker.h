@@ -16,6 +16,9 @@ struct Bounds {
 /// What the option `range` of a type says, such as "-128..127"; nothing if it can't be read.
 std::optional<Bounds> boundsIn(std::string_view text);
 
+/// True for two integers of which the first holds each number of the second.
+bool holds(TypeUses const& uses, TypeUse const& wide, TypeUse const& narrow);
+
 /// Reports a default that `row`'s type can't have.
 void checkDefault(TypeUses const& uses, Row const& row, Diagnostics& diagnostics);
 

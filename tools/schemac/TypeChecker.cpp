@@ -207,8 +207,8 @@ void TypeChecker::computedOf(Row const& row, Word const& field) {
   auto const found = std::ranges::find_if(type_.rows, isMeant);
   if (found == type_.rows.end())
     error(field.at, quoted(type_.name) + " has no field or parameter " + quoted(field.text));
-  else if (!uses_.same(*found->type, *row.type))
-    error(row.type->at, quoted(field.text) + " has another type");
+  else if (!uses_.same(*found->type, *row.type) && !holds(uses_, *row.type, *found->type))
+    error(row.type->at, quoted(row.type->name) + " doesn't hold " + quoted(field.text));
 }
 
 void TypeChecker::param(Row const& row) {
