@@ -53,6 +53,15 @@ Mox::Ptr<Mox::MoxAttr> makeAttribute(Mox::MoxType& type, AttributeRow const& row
 
 }  // namespace
 
+Mox::MoxType* descriptor(Mox::MoxType*& slot, void (*initialiseModule)(), Mox::MoxType* (*make)()) {
+  if (slot) return slot;
+  initialiseModule();
+  if (slot) return slot;
+  slot = Mox::immortal(make());
+  if (slot->base()) slot->base()->derivedTypeQEnq(slot);
+  return slot;
+}
+
 void describe(Mox::IntrospectionReactor& reactor, TypeRow const& row) {
   Mox::MoxType& type = *row.descriptor();
   reactor.handleType(&type, type.base());

@@ -57,14 +57,11 @@ struct TypeRow {
 
 /// A type's descriptor: the one in `slot`; else the one that the module's routine has put there
 /// meanwhile; else a new bare one, immortal, entered in its base's queue of derived types.
+Mox::MoxType* descriptor(Mox::MoxType*& slot, void (*initialiseModule)(), Mox::MoxType* (*make)());
+
 template <class Type>
 Mox::MoxType* descriptor(Mox::MoxType*& slot, void (*initialiseModule)()) {
-  if (slot) return slot;
-  initialiseModule();
-  if (slot) return slot;
-  slot = Mox::immortal(new Type);
-  if (slot->base()) slot->base()->derivedTypeQEnq(slot);
-  return slot;
+  return descriptor(slot, initialiseModule, []() -> Mox::MoxType* { return new Type; });
 }
 
 /// Opens a type, fills its descriptor from the row, and closes it.

@@ -56,9 +56,9 @@ typename A::Value mapDel(typename A::Owner& owner, typename A::Key const& key) {
 }
 
 /// Removes the element under the iterator, which may be at the end, or on an element that has gone
-/// meanwhile: then the default, and nothing done.
+/// meanwhile: then the default, and nothing done.  Never inlined, as two operations end in it.
 template <class A, class Iterator>
-typename A::Value mapDelAt(typename A::Owner& owner, Iterator const& at) {
+[[gnu::noinline]] typename A::Value mapDelAt(typename A::Owner& owner, Iterator const& at) {
   Mox::Ptr<typename A::Node> const node = at ? A::map(owner).find(at.key()) : nullptr;
   return node && node.ptr() == at.node() ? mapDelNode<A>(owner, node) : typename A::Value();
 }

@@ -67,7 +67,8 @@ Mox::Ptr<typename A::Child> ownsDel(typename A::Owner& owner, typename A::Key co
 
 /// Removes the child under the iterator; null, and nothing done, at the end or when it has gone.
 template <EntityAttribute A, class Iterator>
-Mox::Ptr<typename A::Child> ownsDelAt(typename A::Owner& owner, Iterator const& at) {
+[[gnu::noinline]] Mox::Ptr<typename A::Child> ownsDelAt(typename A::Owner& owner,
+                                                        Iterator const& at) {
   Mox::Ptr<typename A::Node> const node = at ? A::map(owner).find(at.key()) : nullptr;
   return node && node.ptr() == at.node() ? ownsDelNode<A>(owner, node) : nullptr;
 }

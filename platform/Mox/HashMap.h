@@ -104,7 +104,7 @@ class HashMap : public HashMapGeneric {
   /// Inserts a node whose key is absent.
   void newMember(Ptr<Node> const& node) {
     if (isFull()) [[unlikely]]
-      grow([this](Link&& again) { enterAgain(std::move(again)); });
+      growAll();
     enter(Link(node));
     countNewMember();
   }
@@ -268,6 +268,11 @@ class HashMap : public HashMapGeneric {
     } else {
       enter(std::move(node));
     }
+  }
+
+  // Apart from the insertion, for its size.
+  [[gnu::noinline]] void growAll() {
+    grow([this](Link&& again) { enterAgain(std::move(again)); });
   }
 
   void copyNodes(HashMap const& other) {

@@ -25,6 +25,7 @@ class MoxAttr : public Entity {
 
   MoxAttr(Name const& name, MoxType const* type, MoxType const* keyType, AttrFlags flags,
           AttributeId id);
+  ~MoxAttr() override;
 
   /// Type of the value, or of a collection's values.
   MoxType const* type() const noexcept { return type_; }
@@ -82,6 +83,7 @@ class MoxType : public MoxAttr {
  public:
   /// `base` is null for a type that derives from none.
   MoxType(Name const& shortName, MoxType* scope, MoxType* base, MoxTypeFlags const& flags);
+  ~MoxType() override;
 
   MoxType* base() const noexcept { return base_; }
   /// The name with its namespace: what `handleType` gave, else the short name.

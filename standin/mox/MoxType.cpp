@@ -19,6 +19,8 @@ MoxAttr::MoxAttr(Name const& name, MoxType const* type, MoxType const* keyType, 
                  AttributeId id)
     : Entity(name), type_(type), keyType_(keyType), flags_(flags), id_(id) {}
 
+MoxAttr::~MoxAttr() = default;
+
 Ptr<MoxAttr> MoxAttr::attr(Name const& name) const {
   for (Ptr<MoxAttr> const& attribute : attributes_)
     if (attribute->moxName() == name) return attribute;
@@ -48,6 +50,8 @@ MoxType::MoxType(Name const& shortName, MoxType* scope, MoxType* base, MoxTypeFl
       fullTypeName_(scope ? scope->fullTypeName().stringValue() + "::" + shortName.stringValue()
                           : shortName.stringValue()),
       flags_(flags) {}
+
+MoxType::~MoxType() = default;
 
 Ptr<MoxAttr> MoxType::defNoninstantiatingAttr(MoxType const* type, Name const& name,
                                               MoxType const* keyType, AttrFlags flags,
