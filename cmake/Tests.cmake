@@ -111,10 +111,10 @@ if(KESTREL_STANDIN)
     endif()
   endforeach()
 
-  # Tests run the tool as users do.
+  # Tests run the tool and the examples as users do.
   foreach(name IN LISTS users_of_the_tool)
     if(TARGET kestrel AND TARGET ${name})
-      add_dependencies(${name} kestrel)
+      add_dependencies(${name} kestrel ${examples})
     endif()
   endforeach()
 endif()
