@@ -22,6 +22,8 @@ using Kestrel::XpSerdesId;
 constexpr U16 ports = 132;
 constexpr U8 lanesOfAPort = 4;
 constexpr U8 fecLanes = 80;
+constexpr U32 speedsOfAPort = 1;
+constexpr U8 serdesOfTheChip = 128;
 
 Mox::Ptr<Kestrel::PhyXp80Status> newLane(U8 lane) {
   Mox::Ptr<Kestrel::PhyXp80Status> const status = new Kestrel::PhyXp80Status(
@@ -73,30 +75,33 @@ class Chip {
     }
   }
 
-  /// Attributes of all entities, and elements of their value collections.
+  /// Attributes of all entities, their bases' included, and elements of their value collections.
   U32 attributes() const {
-    U32 const ofEntities[] = {
-        own(Kestrel::PhyXp80Config::_fwkType()),    own(Kestrel::PhyXp80Status::_fwkType()),
-        own(Kestrel::FecCounters::_fwkType()),      own(Kestrel::XpSerdesSmConfig::_fwkType()),
-        own(Kestrel::XpSerdesSmStatus::_fwkType()), own(Kestrel::PortHwConfig::_fwkType()),
-        own(Kestrel::PortHwStatus::_fwkType())};
-    U32 sum = 2 * fecLanes;
+    U32 const ofEntities[] = {stored(Kestrel::PhyXp80Config::_fwkType()),
+                              stored(Kestrel::PhyXp80Status::_fwkType()),
+                              stored(Kestrel::FecCounters::_fwkType()),
+                              stored(Kestrel::XpSerdesSmConfig::_fwkType()),
+                              stored(Kestrel::XpSerdesSmStatus::_fwkType()),
+                              stored(Kestrel::PortHwConfig::_fwkType()),
+                              stored(Kestrel::PortHwStatus::_fwkType())};
+    U32 sum = 2 * fecLanes + speedsOfAPort;
     for (U32 const count : ofEntities) sum += count;
     return ports * sum;
   }
 
  private:
-  /// Those that are stored: without the ones that every entity has.
-  static U32 own(Mox::MoxType const* type) {
+  /// Without the ones that every entity has, and its key as an element.
+  static U32 stored(Mox::MoxType const* type) {
+    constexpr Mox::AttributeId firstStored = 258;
     U32 count = 0;
-    for (auto const& entry : type->attributeQ()) count += entry.key() != 154 && entry.key() != 0;
+    for (auto const& entry : type->attributeQ()) count += entry.key() >= firstStored;
     return count;
   }
 
   void layPhyOut(U16 port) {
     Mox::Name const name = Mox::format("phy%u", port);
     auto const lane = static_cast<U8>(port % lanesOfAPort);
-    XpSerdesId const serdes(static_cast<U8>(port % 128));
+    XpSerdesId const serdes(static_cast<U8>(port % serdesOfTheChip));
     configs_->phyConfigIs(name, nullptr, "serdes", "1.0", lane, serdes, lane, lane, false, false,
                           Kestrel::TxEq(), Kestrel::TxEq(), Kestrel::TxEq());
     auto const status = statuses_->phyStatusIs(name, Hardware::Phy::mdioClause45,

@@ -92,7 +92,7 @@ void layPortsOut(Slice const& slice) {
   auto const group = slice.config->xpPortGroupListIs("group0");
   for (U8 lane = 0; lane < lanes; ++lane) {
     Mox::String8 const interface = Mox::format("Ethernet1/%u", lane + 1);
-    group->groupsIs(lane == 0 ? "1x100G" : "4x25G")->portsIs(interface, true);
+    if (lane == 0) group->groupsIs("1x100G")->portsIs(interface, true);
     group->groupsIs("4x25G")->portsIs(interface, true);
     auto const port = slice.chip->portHwConfigIs(lane);
     port->laneIdIs(lane);

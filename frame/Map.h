@@ -56,7 +56,8 @@ typename A::Value mapDel(typename A::Owner& owner, typename A::Key const& key) {
 }
 
 /// Removes the element under the iterator, which may be at the end, or on an element that has gone
-/// meanwhile: then the default, and nothing done.  Never inlined, as two operations end in it.
+/// meanwhile: then the default, and nothing done.
+// Not inlined: the removal of all would hold a second copy of it.
 template <class A, class Iterator>
 [[gnu::noinline]] typename A::Value mapDelAt(typename A::Owner& owner, Iterator const& at) {
   Mox::Ptr<typename A::Node> const node = at ? A::map(owner).find(at.key()) : nullptr;

@@ -66,6 +66,7 @@ Mox::Ptr<typename A::Child> ownsDel(typename A::Owner& owner, typename A::Key co
 }
 
 /// Removes the child under the iterator; null, and nothing done, at the end or when it has gone.
+// Not inlined, as `mapDelAt`.
 template <EntityAttribute A, class Iterator>
 [[gnu::noinline]] Mox::Ptr<typename A::Child> ownsDelAt(typename A::Owner& owner,
                                                         Iterator const& at) {

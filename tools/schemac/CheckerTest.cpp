@@ -57,6 +57,8 @@ TEST(CheckerTest, APresetIsAScalarOfABase) {
   EXPECT_EQ(fault(" : A", "- preset b U8 = 1"), "s:7:1: error: no base has a scalar \"b\"\n");
   EXPECT_EQ(fault(" : A", "- preset a U8 = 256"),
             "s:7:17: error: \"256\" is outside of 0 to 255\n");
+  EXPECT_EQ(fault(" : A", "- preset a U8 = 1\n- preset a U8 = 2"),
+            "s:8:1: error: \"a\" is preset twice\n");
   EXPECT_EQ(fault(" : A", "386 preset a U8 = 1"), "s:7:1: error: a preset has no number\n");
 }
 
@@ -230,13 +232,31 @@ TEST(CheckerTest, AValueAddsNothingToItsBaseButABound) {
             "s:7:1: error: \"bound\" needs a range\n");
 }
 
-TEST(CheckerTest, ABoundIsOfTheFirstFieldOfTheBase) {
-  std::string const base = "value B\n2 value U8\nend\nvalue X : B\n2 bound ";
-  std::string const wanted = " isn't the first field of \"B\"\n";
-  EXPECT_EQ(errors(base + "other U8 in 0..9 else \"m\"\nend\n"),
+TEST(CheckerTest, ABoundIsOfTheFieldOfTheBase) {
+  std::string const base = "value B\n2 value U8\nend\nvalue X : B\n";
+  std::string const wanted = " isn't the field of \"B\"\n";
+  EXPECT_EQ(errors(base + "2 bound other U8 in 0..9 else \"m\"\nend\n"),
             "s:6:1: error: \"other\"" + wanted);
-  EXPECT_EQ(errors(base + "value U32 in 0..9 else \"m\"\nend\n"),
+  EXPECT_EQ(errors(base + "2 bound value U32 in 0..9 else \"m\"\nend\n"),
             "s:6:1: error: \"value\"" + wanted);
+  EXPECT_EQ(errors(base + "3 bound value U8 in 0..9 else \"m\"\nend\n"),
+            "s:6:1: error: \"value\"" + wanted);
+}
+
+TEST(CheckerTest, ABaseWithABoundIsOneNumberThatNobodyElseSets) {
+  auto const fault = [](std::string const& base, std::string const& options) {
+    return errors("value B" + base + "end\nvalue X : B" + options +
+                  "\n2 bound value U8 in 0..9 else \"m\"\nend\n");
+  };
+  EXPECT_EQ(fault("\n2 value U8\n", ""), "");
+  EXPECT_EQ(fault("\n2 value U8\n3 more U8\n", ""),
+            "s:6:11: error: the base \"B\" isn't one number\n");
+  EXPECT_EQ(fault(" mutable\n2 value U8\n", ""),
+            "s:5:11: error: the base \"B\" can be set past a bound\n");
+  EXPECT_EQ(fault("\n2 value U8\n", " ordered"),
+            "s:5:13: error: \"ordered\" is the base's to say\n");
+  EXPECT_EQ(fault("\n2 value U8\n", " mutable"),
+            "s:5:13: error: \"mutable\" is the base's to say\n");
 }
 
 TEST(CheckerTest, AComputedRowReadsAsAFieldOfItsType) {
@@ -246,6 +266,11 @@ TEST(CheckerTest, AComputedRowReadsAsAFieldOfItsType) {
   EXPECT_EQ(errors("value X\n2 a U8\n3 computed hash U32 of a\nend\n"), "");
   EXPECT_EQ(errors("value X\n2 a U32\n3 computed hash U8 of a\nend\n"),
             "s:4:17: error: \"U8\" doesn't hold \"a\"\n");
+}
+
+TEST(CheckerTest, AComputedRowHasOneBody) {
+  EXPECT_EQ(errors("value X\n2 a U8\n3 b U8\n4 computed hash U8 of b ofFields\nend\n"),
+            "s:5:23: error: \"of\" and \"ofFields\" are two bodies\n");
 }
 
 TEST(CheckerTest, TextParserAndOrderOfOneNumberAreGenerated) {

@@ -181,17 +181,29 @@ void TypeChecker::bound() {
   if (found == type_.rows.end()) return;
   if (!type_.base) return error(found->at, "\"bound\" needs a base, whose field it bounds");
   if (!found->range) error(found->at, "\"bound\" needs a range");
-  Type const* base = symbols_.ownBase(type_);
-  if (!base || base->rows.empty()) return;
-  Row const& field = base->rows.front();
-  if (field.name != found->name || !uses_.same(*field.type, *found->type))
-    error(found->at, quoted(found->name) + " isn't the first field of " + quoted(base->name));
+  for (char const* option : {"ordered", "mutable"})
+    if (type_.options.count(option))
+      error(type_.options.at(option).at, quoted(option) + " is the base's to say");
+  if (Type const* base = symbols_.ownBase(type_)) boundOf(*base, *found);
+}
+
+// The field keeps its name, its type and its number; and nobody else may set it behind the bound.
+void TypeChecker::boundOf(Type const& base, Row const& row) {
+  if (!isSingle(symbols_, base))
+    return error(type_.base->at, "the base " + quoted(base.name) + " isn't one number");
+  if (base.options.count("mutable"))
+    return error(type_.base->at, "the base " + quoted(base.name) + " can be set past a bound");
+  Row const& field = *std::ranges::find_if(base.rows, isFieldOfValue);
+  if (field.name != row.name || field.id != row.id || !uses_.same(*field.type, *row.type))
+    error(row.at, quoted(row.name) + " isn't the field of " + quoted(base.name));
 }
 
 void TypeChecker::computed(Row const& row) {
   auto const of = row.options.find("of");
   if (of != row.options.end()) computedOf(row, of->second);
   if (!row.options.count("ofFields")) return;
+  if (of != row.options.end())
+    return error(of->second.at, "\"of\" and \"ofFields\" are two bodies");
   auto const isField = [](Row const& each) { return each.shape->name == "field"; };
   if (type_.kind != Kind::value || isSingle(symbols_, type_) ||
       std::ranges::none_of(type_.rows, isField))
@@ -230,8 +242,13 @@ void TypeChecker::preset(Row const& row) {
   if (row.shape->name != "preset") return;
   if (!row.defaultValue) error(row.at, "a preset needs a value, unlike " + quoted(row.name));
   if (!type_.base) return error(row.at, "a preset needs a base that bears " + quoted(row.name));
+  auto const isTwin = [&row](Row const& each) {
+    return each.name == row.name && each.shape == row.shape;
+  };
+  if (&*std::ranges::find_if(type_.rows, isTwin) != &row)
+    return error(row.at, quoted(row.name) + " is preset twice");
   auto const bears = [&row](Row const& each) {
-    return each.name == row.name && hasWord("scalar counter", each.shape->name);
+    return each.name == row.name && each.shape->name == "scalar";
   };
   for (Type const* level = &type_; level->base;) {
     Type const* base = symbols_.ownBase(*level);

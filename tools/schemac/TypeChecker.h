@@ -31,6 +31,7 @@ class TypeChecker {
   void rowTypes(Row const& row);
   void param(Row const& row);
   void counter(Row const& row);
+  void boundOf(Type const& base, Row const& row);
   void computed(Row const& row);
   void computedOf(Row const& row, Word const& field);
   void bound();

@@ -29,9 +29,9 @@ class Branch : public Stem {
 
   /// Kept if it has all of the parameters.
   Mox::Ptr<Leaf> twig() const;
-  /// The child of these parameters; one that has them all already is kept, another one is replaced,
-  /// which calls `onTwig()`.  Raises `RangeException` "null ValidPtr" if that takes the new child
-  /// away.
+  /// The child of these parameters; one that has them all already is kept, and the version steps.
+  /// Another one is replaced, which calls `onTwig()`.  Raises `RangeException` "null ValidPtr" if that
+  /// takes the new child away.
   Mox::Ptr<Leaf> twigIs(Mox::Name const& name, U8 lane, Mix mix);
   /// Makes a child in its place under this entity, and doesn't store it: this entity must outlive it.
   Mox::Ptr<Leaf> newTwig(Mox::Name const& name, U8 lane, Mix mix);
@@ -40,9 +40,9 @@ class Branch : public Stem {
 
   /// The same; keeping it is no change at all.
   Mox::Ptr<Leaf> bud() const;
-  /// The child of these parameters; one that has them all already is kept, another one is replaced,
-  /// which calls `onBud()`.  Raises `RangeException` "null ValidPtr" if that takes the new child
-  /// away.
+  /// The child of these parameters; one that has them all already is kept.
+  /// Another one is replaced, which calls `onBud()`.  Raises `RangeException` "null ValidPtr" if that
+  /// takes the new child away.
   Mox::Ptr<Leaf> budIs(Mox::Name const& name, U8 lane, Mix mix);
   /// Makes a child in its place under this entity, and doesn't store it: this entity must outlive it.
   Mox::Ptr<Leaf> newBud(Mox::Name const& name, U8 lane, Mix mix);
