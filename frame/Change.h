@@ -36,15 +36,20 @@ void notifyKey(typename A::Owner& owner, typename A::Key const& key) {
   deliver<Key>(list, A::id, A::level, static_cast<Hook<Key>>(A::hook), changed);
 }
 
-/// Holds an owner for a step that goes on behind a delivery: an observer may have let go of the
-/// last reference.  An owner that nobody holds, as in its own constructor and destructor, isn't
-/// held here either: it would end with the step.
+/// Holds an owner for a step that goes on behind a delivery, or behind the end of a former target:
+/// the last reference may have gone meanwhile.  An owner that nobody holds, as in its own
+/// constructor and destructor, isn't held here either: it would end with the step.  Values have no
+/// references at all.
 class Held {
  public:
-  explicit Held(Mox::Entity& owner) : owner_(owner.references() > 0 ? &owner : nullptr) {}
+  template <class Owner>
+  explicit Held(Owner& owner) {
+    if constexpr (std::derived_from<Owner, Mox::PtrInterface>)
+      if (owner.references() > 0) owner_ = &owner;
+  }
 
  private:
-  Mox::Ptr<Mox::Entity> owner_;
+  Mox::Ptr<Mox::PtrInterface> owner_;
 };
 
 /// The step behind a change of a scalar.

@@ -30,6 +30,7 @@ void mapNotify(typename A::Owner& owner, typename A::Key const& key) {
 /// Stores or inserts; an equal value under the key is no change.
 template <class A>
 void mapIs(typename A::Owner& owner, typename A::Key const& key, typename A::Value const& value) {
+  Held const held(owner);
   if (auto* const node = A::map(owner).find(key)) {
     if (node->value() == value) return;
     node->valueIs(value);

@@ -162,6 +162,14 @@ TEST(OwnsTest, DeletingByIteratorAndAll) {
   EXPECT_EQ(every->version(), 6u);
 }
 
+TEST(OwnsTest, RemovedChildIsNotRead) {
+  Watched every;
+  auto const child = every->leavesIs("a", 1, everyShape::Mix());
+  U32 const reads = child->readCount();
+  every->leavesDel("a");
+  EXPECT_EQ(child->readCount(), reads);
+}
+
 TEST(OwnsTest, EntityIsItsOwnNode) {
   Watched every;
   auto const child = every->leavesIs("a", 1, mix);

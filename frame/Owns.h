@@ -50,7 +50,7 @@ template <EntityAttribute A>
 Mox::Ptr<typename A::Child> ownsDelNode(typename A::Owner& owner,
                                         Mox::Ptr<typename A::Node> const& node) {
   Mox::Ptr<typename A::Child> const child = A::childOf(*node);
-  typename A::Key const key = A::keyOf(*child);
+  typename A::Key const key = Mox::NodeOps<typename A::Node>::key(*node);
   A::map(owner).deleteMember(node);
   owner.moxVersionInc();
   child->parentIs(nullptr);

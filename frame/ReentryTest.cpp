@@ -95,6 +95,34 @@ TEST(DroppedEntityTest, AllChildrenGo) {
   EXPECT_FALSE(every.entity);
 }
 
+// The leaf that goes held what held the owner; the sanitizers see a step on a freed one.
+TEST(DroppedEntityTest, FormerTargetMayTakeTheOwnerAlong) {
+  class Holder : public everyShape::Leaf {
+   public:
+    explicit Holder(int& ends) : Leaf("leaf", 1, everyShape::Mix()), ends_(ends) {}
+    ~Holder() override { ++ends_; }
+    Mox::Ptr<everyShape::Derived> owner;
+
+   private:
+    int& ends_;
+  };
+  int ends = 0;
+  auto* const entity = new everyShape::Derived("every", 3);
+  Mox::Ptr<Holder> holder = new Holder(ends);
+  holder->owner = entity;
+  entity->seatsIs(1, holder);
+  holder = nullptr;
+  entity->seatsIs(1, nullptr);
+
+  auto* const other = new everyShape::Derived("every", 3);
+  holder = new Holder(ends);
+  holder->owner = other;
+  other->buddyIs(holder);
+  holder = nullptr;
+  other->buddyIs(nullptr);
+  EXPECT_EQ(ends, 2);
+}
+
 TEST(DroppedEntityTest, ObserverMayHoldTheLastReferenceAndLetGoOfItself) {
   auto* const entity = new everyShape::Derived("every", 3);
   Mox::Ptr<Listener> listener = new Listener;

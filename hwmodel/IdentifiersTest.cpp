@@ -3,6 +3,8 @@
 #include "Kestrel/XpPortId.h"
 #include "Kestrel/XpSerdesId.h"
 #include "Mox/TestValues.h"
+#include "XpLib/Config/TreadIndex.h"
+#include "XpXdk/DeviceId.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
@@ -128,6 +130,20 @@ TEST(CoprocessorIdTest, TextAndStream) {
   EXPECT_TRUE(read<CoprocessorId>("\0\0\0\x01"s) != CoprocessorId());
   EXPECT_EQ(complaint([] { read<CoprocessorId>("\0\0"s); }),
             "the stream ends: 4 bytes wanted, 2 left");
+}
+
+TEST(ImportedIdentifiersTest, BoundsHaveTheirTexts) {
+  EXPECT_EQ(XpXdk::DeviceId(32), XpXdk::DeviceId::null);
+  EXPECT_EQ(complaint([] { XpXdk::DeviceId(33); }),
+            "DeviceId::value < DeviceId::min or > DeviceId::null not allowed");
+  EXPECT_EQ(complaint([] { XpLib::Config::TreadIndex(33); }),
+            "TreadIndex::value < TreadIndex::min or > TreadIndex::invalid not allowed");
+}
+
+TEST(XpSerdesIdTest, ParserEndsWhereItIsTold) {
+  Mox::String8 const text("12345");
+  Mox::String8::IteratorConst at = text.begin();
+  EXPECT_EQ(XpSerdesId(at, Mox::String8::IteratorConst(text, 2)).value(), 12);
 }
 
 }  // namespace

@@ -110,7 +110,7 @@ constexpr std::string_view objectNames =
     "hasNotificationActive moxMarkedForDeletion moxMarkedForDeletionIs";
 
 constexpr std::string_view valueNames =
-    "$Class$ Fields Tags fwkType _fwkType $class$Type moxInit$module$ "
+    "$Class$ _Type Fields Tags fwkType _fwkType $class$Type moxInit$module$ "
     "Tags::Tags Tags::Mox";
 
 constexpr std::string_view enumNames =

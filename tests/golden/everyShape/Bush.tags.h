@@ -22,7 +22,6 @@ struct Bush::Tags {
     static auto const& map(Owner const& owner) { return owner.branches_; }
     static Child* childOf(Node& node) { return &node; }
     static Mox::Ptr<Node> nodeFor(Mox::Ptr<Child> const& child) { return child; }
-    static Key keyOf(Child const& child) { return child.port(); }
     static void requireSame(Child const& child, Mox::Ptr<::everyShape::Leaf> const& leaf,
         ::everyShape::Mood mood) {
       Key const key = child.port();

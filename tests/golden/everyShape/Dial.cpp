@@ -7,12 +7,12 @@
 
 namespace everyShape {
 
-namespace {
-
-class Type : public Mox::MoxType {
+class Dial::_Type : public Mox::MoxType {
  public:
-  Type() : MoxType("Dial", nullptr, nullptr, {}) {}
+  _Type() : MoxType("Dial", nullptr, nullptr, {}) {}
 };
+
+namespace {
 
 Mox::MoxType* dialType = nullptr;
 
@@ -32,7 +32,7 @@ Mox::MoxAttr const* attributeCache[std::size(attributeRows)];
 frame::TypeRow const dialRow = {"Dial", "everyShape::Dial", frame::TypeKind::value, Dial::_fwkType,
     nullptr, sizeof(Dial), constructorArgs, attributeRows, attributeCache, "value"};
 
-Mox::MoxType* Dial::_fwkType() { return frame::descriptor<Type>(dialType, moxInitEveryShape); }
+Mox::MoxType* Dial::_fwkType() { return frame::descriptor<_Type>(dialType, moxInitEveryShape); }
 Mox::MoxType const* Dial::fwkType() const { return _fwkType(); }
 
 Dial::Dial(U32 number) : value_(number) {

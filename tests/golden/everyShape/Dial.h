@@ -10,6 +10,8 @@ namespace everyShape {
 /// A bounded number that can be set.
 class Dial {
  public:
+  class _Type;
+
   Dial() = default;
   /// A number above 0 raises `RangeException` "Dial::value < 0 or > 0 not allowed".
   explicit Dial(U32 number);

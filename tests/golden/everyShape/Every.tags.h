@@ -209,7 +209,6 @@ struct Every::Tags {
     static auto const& map(Owner const& owner) { return owner.leaves_; }
     static Child* childOf(Node& node) { return &node; }
     static Mox::Ptr<Node> nodeFor(Mox::Ptr<Child> const& child) { return child; }
-    static Key keyOf(Child const& child) { return child.name(); }
     static void requireSame(Child const& child, U8 lane, ::everyShape::Mix mix) {
       Key const key = child.name();
       frame::requireSame(key, "lane", lane, child.lane());

@@ -23,9 +23,8 @@ struct Grove::Tags {
     static auto const& map(Owner const& owner) { return owner.tree_; }
     static Child* childOf(Node& node) { return node.value().ptr(); }
     static Mox::Ptr<Node> nodeFor(Mox::Ptr<Child> const& child) {
-      return new Node(keyOf(*child), child);
+      return new Node(child->name(), child);
     }
-    static Key keyOf(Child const& child) { return child.name(); }
     static void requireSame(Child const&, U8, ::everyShape::Mix) {}
   };
 

@@ -8,12 +8,12 @@
 
 namespace everyShape {
 
-namespace {
-
-class Type : public Mox::MoxType {
+class Heap::_Type : public Mox::MoxType {
  public:
-  Type() : MoxType("Heap", nullptr, nullptr, {}) {}
+  _Type() : MoxType("Heap", nullptr, nullptr, {}) {}
 };
+
+namespace {
 
 Mox::MoxType* heapType = nullptr;
 
@@ -29,7 +29,7 @@ Mox::MoxAttr const* attributeCache[std::size(attributeRows)];
 frame::TypeRow const heapRow = {"Heap", "everyShape::Heap", frame::TypeKind::value, Heap::_fwkType,
     nullptr, sizeof(Heap), {}, attributeRows, attributeCache};
 
-Mox::MoxType* Heap::_fwkType() { return frame::descriptor<Type>(heapType, moxInitEveryShape); }
+Mox::MoxType* Heap::_fwkType() { return frame::descriptor<_Type>(heapType, moxInitEveryShape); }
 Mox::MoxType const* Heap::fwkType() const { return _fwkType(); }
 
 bool Heap::item(U32 key) const {

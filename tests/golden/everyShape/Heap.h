@@ -10,6 +10,7 @@ namespace everyShape {
 /// A set with an order, a text form and a parser of its own.
 class Heap {
  public:
+  class _Type;
   struct Fields;
   struct Tags;
 

@@ -7,12 +7,12 @@
 
 namespace everyShape {
 
-namespace {
-
-class Type : public Mox::MoxType {
+class Hue::_Type : public Mox::MoxType {
  public:
-  Type() : MoxType("Hue", nullptr, nullptr, {}) {}
+  _Type() : MoxType("Hue", nullptr, nullptr, {}) {}
 };
+
+namespace {
 
 Mox::MoxType* hueType = nullptr;
 
@@ -32,7 +32,7 @@ Mox::MoxAttr const* attributeCache[std::size(attributeRows)];
 frame::TypeRow const hueRow = {"Hue", "everyShape::Hue", frame::TypeKind::value, Hue::_fwkType,
     nullptr, sizeof(Hue), constructorArgs, attributeRows, attributeCache, "value"};
 
-Mox::MoxType* Hue::_fwkType() { return frame::descriptor<Type>(hueType, moxInitEveryShape); }
+Mox::MoxType* Hue::_fwkType() { return frame::descriptor<_Type>(hueType, moxInitEveryShape); }
 Mox::MoxType const* Hue::fwkType() const { return _fwkType(); }
 
 Hue::Hue(U16 number) : value_(number) {}

@@ -10,6 +10,8 @@ namespace everyShape {
 /// A number that is whatever its storage holds.
 class Hue {
  public:
+  class _Type;
+
   Hue() = default;
   explicit Hue(U16 number);
   /// Reads a decimal number at `at` and advances.  It is narrowed to `U16`.

@@ -7,12 +7,12 @@
 
 namespace everyShape {
 
-namespace {
-
-class Type : public Mox::MoxType {
+class Knob::_Type : public Mox::MoxType {
  public:
-  Type() : MoxType("Knob", nullptr, nullptr, {}) {}
+  _Type() : MoxType("Knob", nullptr, nullptr, {}) {}
 };
+
+namespace {
 
 Mox::MoxType* knobType = nullptr;
 
@@ -28,7 +28,7 @@ Mox::MoxAttr const* attributeCache[std::size(attributeRows)];
 frame::TypeRow const knobRow = {"Knob", "everyShape::Knob", frame::TypeKind::value, Knob::_fwkType,
     nullptr, sizeof(Knob), {}, attributeRows, attributeCache};
 
-Mox::MoxType* Knob::_fwkType() { return frame::descriptor<Type>(knobType, moxInitEveryShape); }
+Mox::MoxType* Knob::_fwkType() { return frame::descriptor<_Type>(knobType, moxInitEveryShape); }
 Mox::MoxType const* Knob::fwkType() const { return _fwkType(); }
 
 Knob::Knob(Mox::String8::IteratorConst& at, Mox::String8::IteratorConst const& end) {

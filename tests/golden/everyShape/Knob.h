@@ -10,6 +10,7 @@ namespace everyShape {
 /// A record whose fields can be set.
 class Knob {
  public:
+  class _Type;
   struct Fields;
   struct Tags;
 

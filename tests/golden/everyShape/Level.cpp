@@ -7,12 +7,12 @@
 
 namespace everyShape {
 
-namespace {
-
-class Type : public Mox::MoxType {
+class Level::_Type : public Mox::MoxType {
  public:
-  Type() : MoxType("Level", nullptr, nullptr, {}) {}
+  _Type() : MoxType("Level", nullptr, nullptr, {}) {}
 };
+
+namespace {
 
 Mox::MoxType* levelType = nullptr;
 
@@ -33,7 +33,7 @@ frame::TypeRow const levelRow = {"Level", "everyShape::Level", frame::TypeKind::
     Level::_fwkType, nullptr, sizeof(Level), constructorArgs, attributeRows, attributeCache,
     "value"};
 
-Mox::MoxType* Level::_fwkType() { return frame::descriptor<Type>(levelType, moxInitEveryShape); }
+Mox::MoxType* Level::_fwkType() { return frame::descriptor<_Type>(levelType, moxInitEveryShape); }
 Mox::MoxType const* Level::fwkType() const { return _fwkType(); }
 
 Level::Level(U8 number) : value_(number) {

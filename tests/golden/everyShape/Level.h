@@ -10,6 +10,8 @@ namespace everyShape {
 /// A bounded number.
 class Level {
  public:
+  class _Type;
+
   Level() = default;
   /// A number above 9 raises `RangeException` "Level::value < 0 or > 9 not allowed".
   explicit Level(U8 number);

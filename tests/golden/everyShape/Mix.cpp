@@ -7,12 +7,12 @@
 
 namespace everyShape {
 
-namespace {
-
-class Type : public Mox::MoxType {
+class Mix::_Type : public Mox::MoxType {
  public:
-  Type() : MoxType("Mix", nullptr, nullptr, {}) {}
+  _Type() : MoxType("Mix", nullptr, nullptr, {}) {}
 };
+
+namespace {
 
 Mox::MoxType* mixType = nullptr;
 
@@ -40,7 +40,7 @@ Mox::MoxAttr const* attributeCache[std::size(attributeRows)];
 frame::TypeRow const mixRow = {"Mix", "everyShape::Mix", frame::TypeKind::value, Mix::_fwkType,
     nullptr, sizeof(Mix), constructorArgs, attributeRows, attributeCache};
 
-Mox::MoxType* Mix::_fwkType() { return frame::descriptor<Type>(mixType, moxInitEveryShape); }
+Mox::MoxType* Mix::_fwkType() { return frame::descriptor<_Type>(mixType, moxInitEveryShape); }
 Mox::MoxType const* Mix::fwkType() const { return _fwkType(); }
 
 Mix::Mix(U8 small, S8 below, U16 medium, U32 large, Mox::String8 const& text) : small_(small),

@@ -10,6 +10,7 @@ namespace everyShape {
 /// Two bytes, a signed one and a text: a record with every kind of field.
 class Mix {
  public:
+  class _Type;
   struct Fields;
   struct Tags;
 

@@ -7,12 +7,12 @@
 
 namespace everyShape {
 
-namespace {
-
-class Type : public Mox::MoxType {
+class Shade::_Type : public Mox::MoxType {
  public:
-  Type() : MoxType("Shade", nullptr, Hue::_fwkType(), {}) {}
+  _Type() : MoxType("Shade", nullptr, Hue::_fwkType(), {}) {}
 };
+
+namespace {
 
 Mox::MoxType* shadeType = nullptr;
 
@@ -25,7 +25,7 @@ constexpr frame::ArgRow constructorArgs[] = {
 frame::TypeRow const shadeRow = {"Shade", "everyShape::Shade", frame::TypeKind::value,
     Shade::_fwkType, Hue::_fwkType, sizeof(Shade), constructorArgs, {}, nullptr, "value"};
 
-Mox::MoxType* Shade::_fwkType() { return frame::descriptor<Type>(shadeType, moxInitEveryShape); }
+Mox::MoxType* Shade::_fwkType() { return frame::descriptor<_Type>(shadeType, moxInitEveryShape); }
 Mox::MoxType const* Shade::fwkType() const { return _fwkType(); }
 
 Shade::Shade(U16 number) : Hue(number) {

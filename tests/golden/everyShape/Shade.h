@@ -11,6 +11,8 @@ namespace everyShape {
 /// A number with the bound of a narrower type.
 class Shade : public Hue {
  public:
+  class _Type;
+
   Shade() = default;
   /// A number above 359 raises `RangeException` "Shade::value < 0 or > 359 not allowed".
   explicit Shade(U16 number);
