@@ -1,6 +1,7 @@
 // The owned collection: child entities, which are the nodes of the map, or stand in nodes.
 #pragma once
 
+#include "Mox/MapNode.h"
 #include "frame/Map.h"
 #include "frame/Reinstantiation.h"
 
