@@ -186,9 +186,10 @@ TEST(DeliverTest, ObserverOfTheBaseAloneDoesntHearOfTheDerivedEntity) {
   Mox::Ptr<PlainListener> const plain = new PlainListener;
   watch(plain, every.entity);
   every->extraIs(1);
+  every->marksIs(1, true);
   every->levelIs(1);
   EXPECT_EQ(plain->heard, "level;");
-  EXPECT_EQ(every.heard(), "extra;level;");
+  EXPECT_EQ(every.heard(), "extra;marks 1;level;");
 }
 
 }  // namespace
