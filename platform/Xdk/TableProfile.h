@@ -3,6 +3,10 @@
 
 #include "Xdk/TableContext.h"
 
+/// Table ids of the longest-prefix-match tables.
+inline constexpr U32 LPM_V4_TBL_GUID = 50;
+inline constexpr U32 LPM_V6_TBL_GUID = 51;
+
 /// Read by table id, 0 to 61.  Both arrays are read directly.
 class xpTableProfile {
  public:

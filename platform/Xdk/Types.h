@@ -1,4 +1,4 @@
-// The SDK's plain types: status, start type, table mode.
+// The SDK's plain types: status, start type, table mode, direction.
 #pragma once
 
 #include "Mox/Integers.h"
@@ -11,3 +11,6 @@ enum xpInitType_t : U32 { XP_INIT_COLD = 1, XP_INIT_WARM = 2 };
 
 /// How a manager comes by the layout of its table.
 enum XP_TABLE_MODE_T : U32 { TABLE_INIT_WITH_FIXED_INFO = 1 };
+
+/// The side of the chip that an entry is written on.
+enum xpDirection_t : U32 { XP_INGRESS = 1 };

@@ -81,14 +81,28 @@ bool TableManSm::doVerifyOrCreateTables(bool warmRestart) {
   chipStatus()->tableContextEntryDelAll();
 
   // In this order, which is part of the contract.
+  doCreateStaticTables();
   doCreateBdTables();
+  if (ldePipeMode() == XpXdk::xpDeviceLdePipeMode3) {
+    doCreateL4PortTables();
+    doCreateAaclMgksTables();
+    doCreateAaclMgTables();
+    doCreateTunnelTables();
+    doCreateIpXformTables();
+  }
   doCreateFdbTable();
   doCreateRouteMcTable();
   doCreatePimTable();
   doCreatePortVlanTable();
   doCreateMdtTable();
+  doCreateHeaderModTables();
+  doCreateVifTables();
   doCreateControlMacTable();
+  doCreateLpmTables();
   doCreateNhTables();
+  doCreateHostTables();
+  doCreateQosTables();
+  doCreateIAclTables();
 
   auto* const eaclMgr = xpEgressAclMgr::instance();
   eaclMgr->init();  // Deliberate: no status of it stops the bring-up.

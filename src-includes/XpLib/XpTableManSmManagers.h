@@ -21,9 +21,9 @@ U32 plMgrIdOf(U32 index = 0) {
 /// Manager `index` of class `Manager`, as the platform layer `Layer` has it; null where it has
 /// none.
 template <class Layer, class Manager>
-xpPrimitiveMgr* managerOf(U32 index = 0) {
+Manager* managerOf(U32 index = 0) {
   auto* const layer = Layer::instance();
-  return layer->getPrimitiveMgr(plMgrIdOf<Manager>(index));
+  return static_cast<Manager*>(layer->getPrimitiveMgr(plMgrIdOf<Manager>(index)));
 }
 
 }  // namespace Kestrel::xpTableManSm

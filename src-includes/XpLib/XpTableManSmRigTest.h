@@ -30,20 +30,29 @@ xdksim::Table table(U32 copies = 1) {
   return xdksim::tableOf(contexts<Context>(copies), copies);
 }
 
-/// The smallest device that passes the bring-up: no table but the next-hop table.
+/// The smallest device that passes the bring-up: one table of each group that mustn't be empty, the
+/// LPM tables, and the next-hop table.
 inline xdksim::Profile bareProfile() {
   xdksim::Profile profile;
+  profile.tables[19] = table<xpDirectTableContext>();
+  profile.tables[36] = table<xpHashTableContext>();
+  profile.tables[50] = table<xpLpmTableContext>();
+  profile.tables[51] = table<xpLpmTableContext>();
   profile.tables[52] = table<xpNhTableContext>();
   return profile;
 }
 
-/// A device that has one copy of each table of the operations that exist.
+/// A device that has one copy of each table.
 inline xdksim::Profile fullProfile() {
   xdksim::Profile profile = bareProfile();
-  profile.tables[0] = table<xpHashTableContext>();
-  profile.tables[1] = table<xpHashTableContext>();
-  profile.tables[8] = table<xpHashTableContext>();
-  for (U32 id : {10u, 30u, 31u, 32u}) profile.tables[id] = table<xpDirectTableContext>();
+  for (U32 id : {0u, 1u, 2u, 4u, 5u, 8u, 13u}) profile.tables[id] = table<xpHashTableContext>();
+  for (U32 id : {10u, 27u, 28u, 29u, 30u, 31u, 32u, 35u})
+    profile.tables[id] = table<xpDirectTableContext>();
+  for (U32 id : {12u, 33u, 34u, 60u, 61u}) profile.tables[id] = table<xpIsmeTableContext>();
+  for (U32 id = 19; id <= 26; ++id) profile.tables[id] = table<xpDirectTableContext>();
+  for (U32 id = 36; id <= 41; ++id) profile.tables[id] = table<xpHashTableContext>();
+  for (U32 id = 42; id <= 44; ++id) profile.tables[id] = table<xpMatchTableContext>();
+  for (U32 id = 53; id <= 59; ++id) profile.tables[id] = table<xpMatchTableContext>();
   return profile;
 }
 

@@ -20,6 +20,13 @@ Layer* layer() {
   return &one;
 }
 
+/// The one manager of its class.
+template <class Manager>
+Manager* theOne() {
+  static Manager one;
+  return &one;
+}
+
 }  // namespace
 
 xpIfPl* xpIfPl::instance() { return layer<xpIfPl, Reach::ifPl>(); }
@@ -69,13 +76,47 @@ XP_STATUS xpPrimitiveMgr::loadDefaultValue(U32 devId) {
   return Sim::current().call(*this, Call::loadDefaultValue, {.device = devId});
 }
 
-xpEgressAclMgr* xpEgressAclMgr::instance() {
-  static xpEgressAclMgr one;
+XP_STATUS xpIaclMgr::createTable(U32 devId, std::vector<xpTblCtxPerIdx*>& tblCtxPerIdx,
+                                 U8 tblCopyNum, XP_TABLE_MODE_T mode) {
+  return Sim::current().call(
+      *this, Call::createTable,
+      {.device = devId, .list = &tblCtxPerIdx, .copies = tblCopyNum, .mode = mode});
+}
+
+XP_STATUS xpVifMgr::writeEntry(U32 devId, U32 vifId, xpDirection_t direction, xpVifEntry*) {
+  return Sim::current().call(*this, Call::writeEntry,
+                             {.device = devId, .vif = vifId, .direction = direction});
+}
+
+xpAllocatorMgr* xpAllocatorMgr::instance(U32) {
+  static xpAllocatorMgr one;
   return &one;
 }
 
-XP_STATUS xpEgressAclMgr::init() { return Sim::current().call(*this, Call::init, {}); }
+XP_STATUS xpAllocatorMgr::getNullPortVif(U32& vifId) {
+  vifId = 7;
+  return 0;
+}
 
-XP_STATUS xpEgressAclMgr::removeDevice(U32 devId) {
+XP_STATUS xpSingletonMgr::init() { return Sim::current().call(*this, Call::init, {}); }
+
+XP_STATUS xpSingletonMgr::removeDevice(U32 devId) {
   return Sim::current().call(*this, Call::removeDevice, {.device = devId});
 }
+
+XP_STATUS xpDeInitMgr::deInit() { return Sim::current().call(*this, Call::deInit, {}); }
+
+xpAqmMgr* xpAqmMgr::instance() { return theOne<xpAqmMgr>(); }
+xpLanzMgr* xpLanzMgr::instance() { return theOne<xpLanzMgr>(); }
+xpQueueCounterMgr* xpQueueCounterMgr::instance() { return theOne<xpQueueCounterMgr>(); }
+xpPortIngressQosMgr* xpPortIngressQosMgr::instance() { return theOne<xpPortIngressQosMgr>(); }
+xpSchedulerMgr* xpSchedulerMgr::instance() { return theOne<xpSchedulerMgr>(); }
+xpShaperMgr* xpShaperMgr::instance() { return theOne<xpShaperMgr>(); }
+xpCpuStormControlMgr* xpCpuStormControlMgr::instance() { return theOne<xpCpuStormControlMgr>(); }
+xpEgressQosMapMgr* xpEgressQosMapMgr::instance() { return theOne<xpEgressQosMapMgr>(); }
+xpPolicerMgr* xpPolicerMgr::instance() { return theOne<xpPolicerMgr>(); }
+xpControlPlanePolicingMgr* xpControlPlanePolicingMgr::instance() {
+  return theOne<xpControlPlanePolicingMgr>();
+}
+xpFlowControlMgr* xpFlowControlMgr::instance() { return theOne<xpFlowControlMgr>(); }
+xpEgressAclMgr* xpEgressAclMgr::instance() { return theOne<xpEgressAclMgr>(); }

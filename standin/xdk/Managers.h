@@ -46,7 +46,7 @@ struct Operation {
   std::string shown() const;
 };
 
-/// How a row meets its class in the SDK's declarations; all null while they lack the class.
+/// How a row meets its class in the SDK's declarations.
 struct ManagerClass {
   std::vector<U32>* ids = nullptr;        ///< the class's `myId`; null for a singleton
   xpPrimitiveMgr* (*object)() = nullptr;  ///< a new one for a layer, the one of a singleton
@@ -59,10 +59,9 @@ struct Manager {
   U32 firstIndex;  ///< indices that are in use, both ends included; 0 for a singleton
   U32 lastIndex;
   std::array<Call, 4> calls;  ///< `none` at the end
-  ManagerClass declared = {};
+  ManagerClass declared;
 
   bool isSingleton() const { return reach == Reach::singleton; }
-  bool isDeclared() const { return declared.object != nullptr; }
   bool has(Call call) const;
   bool has(std::string_view operation) const;
 };

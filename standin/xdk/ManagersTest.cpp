@@ -35,7 +35,7 @@ std::set<std::string> classesIn(std::string const& header) {
 std::set<std::string> declaredRows(bool singletons) {
   std::set<std::string> names;
   for (Manager const& manager : managers()) {
-    if (manager.isDeclared() && manager.isSingleton() == singletons) names.insert(manager.name);
+    if (manager.isSingleton() == singletons) names.insert(manager.name);
   }
   return names;
 }
@@ -47,7 +47,6 @@ TEST(ManagersTest, EveryDeclaredClassHasItsRowAndEveryRowItsClass) {
 
 TEST(ManagersTest, RowMakesAnObjectOfTheClassThatItNames) {
   for (Manager const& manager : managers()) {
-    if (!manager.isDeclared()) continue;
     xpPrimitiveMgr* object = manager.declared.object();
     std::unique_ptr<xpPrimitiveMgr> owned(manager.isSingleton() ? nullptr : object);
     std::string length = std::to_string(std::string(manager.name).size());
@@ -58,7 +57,7 @@ TEST(ManagersTest, RowMakesAnObjectOfTheClassThatItNames) {
 TEST(ManagersTest, ClassesHaveVectorsOfTheirOwn) {
   std::set<std::vector<U32>*> vectors;
   for (Manager const& manager : managers()) {
-    EXPECT_EQ(manager.declared.ids != nullptr, manager.isDeclared() && !manager.isSingleton());
+    EXPECT_EQ(manager.declared.ids != nullptr, !manager.isSingleton());
     if (manager.declared.ids) {
       EXPECT_TRUE(vectors.insert(manager.declared.ids).second);
     }

@@ -39,7 +39,7 @@ struct Sim::State {
 
 Sim::State::State() {
   for (Manager const& row : managers()) {
-    if (row.isDeclared() && row.isSingleton()) identities[row.declared.object()] = {&row, 0};
+    if (row.isSingleton()) identities[row.declared.object()] = {&row, 0};
   }
   fillIds();
 }
