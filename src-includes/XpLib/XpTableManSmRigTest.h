@@ -56,6 +56,13 @@ inline xdksim::Profile fullProfile() {
   return profile;
 }
 
+/// The full device with these numbers of copies for tables from `firstId` on.
+inline xdksim::Profile withCopies(U32 firstId, std::vector<U32> const& copyNums) {
+  auto profile = fullProfile();
+  for (U32 const copyNum : copyNums) profile.tables[firstId++].copyNum = copyNum;
+  return profile;
+}
+
 /// Writes down what happens to the published tables.
 class Publications : public ChipStatus::NotifieeConst {
  public:
@@ -119,6 +126,24 @@ class Rig {
   Mox::Ptr<XpLib::Config::LpmTreadCfg> lpmTreadCfg = new XpLib::Config::LpmTreadCfg("treads");
   Mox::Ptr<Publications> publications = Publications::of(status, lines);
 };
+
+/// What happens in one operation alone, on a chip that is up and of which nothing is published.
+inline Lines linesOf(Rig& rig, void (TableManSm::*operation)()) {
+  auto const sm = rig.bringUp();
+  rig.status->tableContextEntryDelAll();
+  rig.take();
+  ((*sm).*operation)();
+  return rig.take();
+}
+
+/// One call whose status is looked at.
+struct Checked {
+  char const* operation;  ///< of the SDK
+  char const* call;       ///< what the status line says
+  char const* signature;  ///< of the operation that calls
+};
+
+inline void PrintTo(Checked const& checked, std::ostream* out) { *out << checked.operation; }
 
 /// What a failed assertion leaves on standard error; its line stands as "N".
 inline std::string assertion(std::string const& text, std::string const& signature) {

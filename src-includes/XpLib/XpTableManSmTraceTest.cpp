@@ -5,6 +5,7 @@
 #include "XpLib/XpTableManSmTrace.h"
 #include "standin/mox/swiftlog/Layout.h"
 
+#include <algorithm>
 #include <cstring>
 #include <map>
 #include <sstream>
@@ -71,39 +72,134 @@ class Records {
 std::string const one(1, '\1');
 std::string const nul(1, '\0');
 
-// "entry" of an operation, and what publication says behind it.
-std::string published(U32 id, U32 plMgrId, std::string const& copies) {
+// What a publication says.
+std::string published(U32 id, U32 plMgrId, std::string const& copies, U32 tableIdForMgr = 0) {
   return "TableManSm::doUpdateTableStatus DeviceId 0 TableId " + std::to_string(id) +
-         " tblCopyNum " + copies + " plMgrId " + std::to_string(plMgrId) + " tableIdForMgr 0";
+         " tblCopyNum " + copies + " plMgrId " + std::to_string(plMgrId) + " tableIdForMgr " +
+         std::to_string(tableIdForMgr);
+}
+
+// What the operations of a bring-up say at their entry, and publications among them; `copies` is
+// how one copy looks.
+Lines saidByBringUp(std::string const& copies) {
+  auto entered = [](std::string const& name) { return "TableManSm::" + name + " DeviceId 0"; };
+  auto told = [&copies](U32 id, U32 plMgrId, U32 tableIdForMgr = 0) {
+    return published(id, plMgrId, copies, tableIdForMgr);
+  };
+  return {
+      entered("handleInitialized"),
+      entered("doCreateStaticTables"),
+      entered("doCreateBdTables"),
+      told(31, xpBdMgr::myId[0]),
+      told(32, xpEgressBdMgr::myId[0]),
+      entered("doCreateL4PortTables"),
+      told(33, aaclL4PortMgr::myId[1]),
+      told(34, aaclL4PortMgr::myId[2]),
+      told(53, xpMgksMgr::myId[0]),
+      told(54, xpMgksMgr::myId[0], 1),
+      told(55, xpMgksMgr::myId[0], 2),
+      told(56, xpMgksMgr::myId[0], 3),
+      told(57, xpMgksMgr::myId[0], 4),
+      told(58, xpMgksMgr::myId[0], 5),
+      told(59, xpMgksMgr::myId[0], 6),
+      entered("doCreateAaclMgTables"),
+      told(36, xpAaclMgTableMgr::myId[0]),
+      told(37, xpAaclMgTableMgr::myId[0], 1),
+      told(38, xpAaclMgTableMgr::myId[0], 2),
+      told(39, xpAaclMgTableMgr::myId[0], 3),
+      told(40, xpAaclMgTableMgr::myId[0], 4),
+      told(41, xpAaclMgTableMgr::myId[0], 5),
+      entered("doCreateTunnelTables"),
+      told(35, xpTunnelInfoMgr::myId[0]),
+      told(2, xpTunnelIvifMgr::myId[0]),
+      told(12, xpTunnelIvifMgr::myId[0], 2),
+      told(13, xpTunnelIvifMgr::myId[0], 3),
+      entered("doCreateIpXformTables"),
+      told(60, xpIpXformMgr::myId[1]),
+      told(61, xpIpXformMgr::myId[2]),
+      entered("doCreateFdbTable"),
+      told(0, xpFdbMgr::myId[0]),
+      entered("doCreateRouteMcTable"),
+      told(8, xpIpv4RouteMcMgr::myId[0]),
+      entered("doCreatePimTable"),
+      entered("doCreatePortVlanTable"),
+      told(1, xpPortVlanIvifMgr::myId[0]),
+      entered("doCreateMdtTable"),
+      told(30, xpMdtMgr::myId[0]),
+      entered("doCreateHeaderModTables"),
+      told(27, xpHdrModificationMgr::myId[0]),
+      told(28, xpHdrModificationMgr::myId[0], 1),
+      told(29, xpHdrModificationMgr::myId[0], 2),
+      entered("doCreateVifTables"),
+      told(19, xpVifMgr::myId[0]),
+      told(20, xpVifMgr::myId[0], 1),
+      told(21, xpVifMgr::myId[0], 2),
+      told(22, xpVifMgr::myId[0], 3),
+      told(23, xpVifMgr::myId[0], 4),
+      told(24, xpVifMgr::myId[0], 5),
+      told(25, xpVifMgr::myId[0], 6),
+      told(26, xpVifMgr::myId[0], 7),
+      entered("doCreateControlMacTable"),
+      entered("doCreateLpmTables"),
+      told(50, xpIpRouteLpmMgr::myId[1]),
+      told(51, xpIpRouteLpmMgr::myId[0]),
+      told(52, xpNhMgr::myId[0]),
+      entered("doCreateHostTables"),
+      told(4, xpIpv4HostMgr::myId[0]),
+      told(5, xpIpv6HostMgr::myId[0]),
+      entered("doCreateQosTables"),
+      entered("doCreateIAclTables"),
+      told(42, xpIaclMgr::myId[0]),
+      told(43, xpIaclMgr::myId[0], 1),
+      told(44, xpIaclMgr::myId[0], 2),
+  };
+}
+
+// Puts `line` behind the first line that ends in `place`.
+void insertBehind(Lines& lines, std::string const& place, std::string const& line) {
+  auto const at =
+      std::ranges::find_if(lines, [&](auto const& each) { return each.ends_with(place); });
+  ASSERT_NE(at, lines.end()) << place;
+  lines.insert(at + 1, line);
+}
+
+// As a line of the trace shows it: "1 doCreateBdTables: TableManSm::doCreateBdTables DeviceId 0".
+std::string atLevelOne(std::string const& said) {
+  std::string const head = "TableManSm::";
+  return "1 " + said.substr(head.size(), said.find(' ') - head.size()) + ": " + said;
 }
 
 TEST(TableManSmTraceTest, BringUpAtLevelOne) {
   Rig rig;
   Trace trace("XpTableManSm/1");
   rig.bringUp();
-  auto entered = [](std::string const& name) {
-    return "1 " + name + ": TableManSm::" + name + " DeviceId 0";
-  };
-  auto told = [](U32 id, std::vector<U32> const& ids) {
-    return "1 doUpdateTableStatus: " + published(id, ids[0], one);
-  };
-  EXPECT_EQ(trace.lines, (Lines{
-                             entered("handleInitialized"),
-                             entered("doCreateBdTables"),
-                             told(31, xpBdMgr::myId),
-                             told(32, xpEgressBdMgr::myId),
-                             entered("doCreateFdbTable"),
-                             told(0, xpFdbMgr::myId),
-                             entered("doCreateRouteMcTable"),
-                             told(8, xpIpv4RouteMcMgr::myId),
-                             entered("doCreatePimTable"),
-                             entered("doCreatePortVlanTable"),
-                             told(1, xpPortVlanIvifMgr::myId),
-                             entered("doCreateMdtTable"),
-                             told(30, xpMdtMgr::myId),
-                             entered("doCreateControlMacTable"),
-                             told(52, xpNhMgr::myId),
-                         }));
+  Lines expected;
+  for (std::string const& said : saidByBringUp(one)) expected.push_back(atLevelOne(said));
+  insertBehind(expected, "doCreateIAclTables DeviceId 0",
+               "1 doCreateIAclTables: doCreateIAclTables DeviceId 0 Number of IACL TCAM Table "
+               "Copies : 1");
+  EXPECT_EQ(trace.lines, expected);
+}
+
+// The rig's tread plans aren't valid.
+TEST(TableManSmTraceTest, BringUpAtLevelTwo) {
+  Rig rig;
+  Trace trace("XpTableManSm/2");
+  rig.bringUp();
+  EXPECT_EQ(trace.lines, (Lines{"2 doUpdateLpmTblCtx: doUpdateLpmTblCtx tblGuid 50",
+                                "2 doUpdateLpmTblCtx:  tread cfg not valid ",
+                                "2 doUpdateLpmTblCtx: doUpdateLpmTblCtx tblGuid 51",
+                                "2 doUpdateLpmTblCtx:  tread cfg not valid "}));
+}
+
+TEST(TableManSmTraceTest, TakeDownIsTracedAlsoTheSecondTime) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  Trace trace("XpTableManSm/0-31");
+  sm->doPrepareToDie();
+  sm->doPrepareToDie();
+  std::string const line = "1 doPrepareToDie: TableManSm::doPrepareToDie DeviceId 0";
+  EXPECT_EQ(trace.lines, (Lines{line, line}));
 }
 
 TEST(TableManSmTraceTest, BringUpAtLevelEight) {
@@ -127,7 +223,7 @@ TEST(TableManSmTraceTest, WarmRestartIsOneInTheText) {
 
 TEST(TableManSmTraceTest, OtherLevelsAreEmpty) {
   Rig rig;
-  Trace trace("XpTableManSm/0,2-7,9-31");
+  Trace trace("XpTableManSm/0,3-7,9-31");
   rig.bringUp();
   EXPECT_EQ(trace.lines, Lines());
 }
@@ -163,6 +259,19 @@ TEST(TableManSmTraceTest, SkippedTableIsTraced) {
   sm->doUpdateTableStatus(3, "T", &none, 1, 0, 9);
   EXPECT_EQ(trace.lines, Lines{"1 doUpdateTableStatus: " + published(3, 9, one)});
   EXPECT_EQ(records.texts(), Lines{published(3, 9, "1")});
+}
+
+TEST(TableManSmTraceTest, HeaderTablesBehindTheStopAreTracedAsSkipped) {
+  Rig rig(withCopies(27, {1, 0, 1}));
+  auto const sm = rig.bringUp();
+  Trace trace("XpTableManSm/1");
+  sm->doCreateHeaderModTables();
+  U32 const manager = xpHdrModificationMgr::myId[0];
+  EXPECT_EQ(trace.lines, (Lines{"1 doCreateHeaderModTables: TableManSm::doCreateHeaderModTables "
+                                "DeviceId 0",
+                                atLevelOne(published(27, manager, one, 0)),
+                                atLevelOne(published(28, manager, one, 1)),
+                                atLevelOne(published(29, manager, one, 2))}));
 }
 
 TEST(TableManSmTraceTest, SitesAreCountedEnabledOrNot) {
@@ -203,31 +312,23 @@ TEST(TableManSmTraceTest, HandleOfTheSdksMacrosIsMadeAndNotUsed) {
 
 // Records.
 
+// Three entries and the treads leave no record.
 TEST(TableManSmRecordTest, BringUp) {
   Rig rig;
   Records records;
   rig.bringUp();
-  auto entered = [](std::string const& name) { return "TableManSm::" + name + " DeviceId 0"; };
-  auto told = [](U32 id, std::vector<U32> const& ids) { return published(id, ids[0], "1"); };
-  EXPECT_EQ(records.texts(),
-            (Lines{
-                entered("handleInitialized"),
-                "bool Kestrel::TableManSm::doVerifyOrCreateTables(bool) warmRestart 0",
-                entered("doCreateBdTables"),
-                told(31, xpBdMgr::myId),
-                told(32, xpEgressBdMgr::myId),
-                entered("doCreateFdbTable"),
-                told(0, xpFdbMgr::myId),
-                entered("doCreateRouteMcTable"),
-                told(8, xpIpv4RouteMcMgr::myId),
-                entered("doCreatePimTable"),
-                entered("doCreatePortVlanTable"),
-                told(1, xpPortVlanIvifMgr::myId),
-                entered("doCreateMdtTable"),
-                told(30, xpMdtMgr::myId),
-                entered("doCreateControlMacTable"),
-                told(52, xpNhMgr::myId),
-            }));
+  Lines expected = saidByBringUp("1");
+  insertBehind(expected, "handleInitialized DeviceId 0",
+               "bool Kestrel::TableManSm::doVerifyOrCreateTables(bool) warmRestart 0");
+  EXPECT_EQ(records.texts(), expected);
+}
+
+TEST(TableManSmRecordTest, TakeDown) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  Records records;
+  sm->doPrepareToDie();
+  EXPECT_EQ(records.texts(), Lines{"TableManSm::doPrepareToDie DeviceId 0"});
 }
 
 TEST(TableManSmRecordTest, ArgumentsOfAPublication) {
@@ -287,8 +388,11 @@ TEST(TableManSmRecordTest, ArgumentsHaveTheirTypes) {
        "cicii"},
   };
   for (char const* name :
-       {"handleInitialized", "doCreateBdTables", "doCreateFdbTable", "doCreateRouteMcTable",
-        "doCreatePimTable", "doCreatePortVlanTable", "doCreateMdtTable", "doCreateControlMacTable"})
+       {"handleInitialized", "doCreateStaticTables", "doCreateBdTables", "doCreateL4PortTables",
+        "doCreateAaclMgTables", "doCreateTunnelTables", "doCreateIpXformTables", "doCreateFdbTable",
+        "doCreateRouteMcTable", "doCreatePimTable", "doCreatePortVlanTable", "doCreateMdtTable",
+        "doCreateHeaderModTables", "doCreateVifTables", "doCreateControlMacTable",
+        "doCreateLpmTables", "doCreateHostTables", "doCreateQosTables", "doCreateIAclTables"})
     expected[std::string("[TableManSm::][") + name + "][ DeviceId ]|"] = "c";
   EXPECT_EQ(argumentTypes(file), expected);
 }
