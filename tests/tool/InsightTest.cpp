@@ -15,7 +15,7 @@ constexpr char const* chipCommands[] = {"demo", "report summary", "report summar
                                         "report tables", "bringup"};
 
 /// A profile on which the bring-up ends by assertion, at its third table.
-constexpr char const* fatal = R"({"sdkStatus": {"xpFdbMgr::addDevice": 5}})";
+constexpr char const* fatal = R"({"ldePipeMode": 0, "sdkStatus": {"xpFdbMgr::addDevice": 5}})";
 
 /// Behind the prompt of the tool's complaints.
 std::string complaint(std::string const& text) { return "kestrel: error: " + text + '\n'; }
@@ -110,7 +110,7 @@ TEST(TraceCommandTest, PrintsTheRecords) {
   Outcome const outcome = run.in("trace run");
   EXPECT_TRUE(outcome.out.starts_with("#0 src-includes/XpLib/XpTableManSm:")) << outcome.out;
   EXPECT_NE(outcome.out.find(" TableManSm::doUpdateTableStatus DeviceId 0 TableId 31 tblCopyNum 1 "
-                             "plMgrId 1 tableIdForMgr 0\n"),
+                             "plMgrId 6 tableIdForMgr 0\n"),
             std::string::npos);
   EXPECT_EQ(outcome.err, "");
   EXPECT_EQ(outcome.status, 0);
