@@ -1,7 +1,5 @@
 // The tables of routes and hosts, and the treads of the prefix tables.
-#include "Mox/Exception.h"
-#include "Mox/Trace.h"
-#include "XpLib/XpTableManSmRigTest.h"
+#include "XpLib/XpTableManSmSaidTest.h"
 #include "XpLib/XpTableManSmTreads.h"
 
 #include <map>
@@ -41,55 +39,42 @@ Mox::Ptr<XpLib::Config::LpmTreadCfg> plan(std::map<U8, U8> const& v4, std::map<U
   return cfg;
 }
 
-// What is traced at some levels while it lives, behind the head of each line.
-class Traced {
- public:
-  explicit Traced(char const* pattern) {
-    Mox::traceEnable(pattern);
-    former_ = Mox::traceSinkIs([this](std::string_view line) {
-      std::string const object = " <unknown>: ";
-      lines.emplace_back(line.substr(line.find(object) + object.size()));
-    });
-  }
-  ~Traced() {
-    Mox::traceSinkIs(former_);
-    Mox::traceDisable("XpTableManSm");
-  }
-
-  Lines lines;
-
- private:
-  Mox::TraceSink former_;
-};
+/// What a line of the trace says behind the name of the operation.
+Lines texts(Trace const& trace) {
+  Lines result;
+  for (std::string const& line : trace.lines) result.push_back(line.substr(line.find(": ") + 2));
+  return result;
+}
 
 // Treads.
 
 TEST(TreadsTest, PrefixTablesTakeThePlanInTheirOrder) {
   auto context = withTreads({{3, 0}, {7, 16}, {9, 2}});
-  Traced traced("XpTableManSm/1");
+  Trace trace("XpTableManSm/1");
   doUpdateLpmTblCtx(50, &context, plan({{0, 5}, {1, 8}}, {}));
   EXPECT_EQ(treadsOf(context), (Treads{{3, 21}, {7, 16}, {9, 24}}));
-  EXPECT_EQ(traced.lines, (Lines{" index 3/0 tread 0/21", " index 9/1 tread 2/24"}));
+  EXPECT_EQ(texts(trace), (Lines{" index 3/0 tread 0/21", " index 9/1 tread 2/24"}));
 }
 
 TEST(TreadsTest, WalkIsTracedAtLevelTwo) {
   auto context = withTreads({{0, 16}, {1, 4}});
   context.prefixTable[2].tread = 9;
-  Traced traced("XpTableManSm/2");
+  Trace trace("XpTableManSm/2");
   doUpdateLpmTblCtx(51, &context, plan({}, {{0, 1}}));
-  ASSERT_EQ(traced.lines.size(), 34u);
-  EXPECT_EQ(Lines(traced.lines.begin(), traced.lines.begin() + 5),
+  Lines const said = texts(trace);
+  ASSERT_EQ(said.size(), 34u);
+  EXPECT_EQ(Lines(said.begin(), said.begin() + 5),
             (Lines{"doUpdateLpmTblCtx tblGuid 51", " index 0 tread 16 valid 1",
                    " index 1 tread 4 valid 1", " cfgIdx 0", " index 2 tread 9 valid 0"}));
-  EXPECT_EQ(traced.lines.back(), " index 31 tread 0 valid 0");
+  EXPECT_EQ(said.back(), " index 31 tread 0 valid 0");
 }
 
 TEST(TreadsTest, ValidIsAnythingButZero) {
   auto context = withTreads({{0, 4}});
   context.prefixTable[0].valid = 0x80;
-  Traced traced("XpTableManSm/2");
+  Trace trace("XpTableManSm/2");
   doUpdateLpmTblCtx(50, &context, plan({{0, 1}}, {}));
-  EXPECT_EQ(traced.lines[1], " index 0 tread 4 valid 1");
+  EXPECT_EQ(texts(trace)[1], " index 0 tread 4 valid 1");
   EXPECT_EQ(context.prefixTable[0].tread, 17u);
 }
 
@@ -117,10 +102,10 @@ TEST(TreadsTest, PlanThatIsNotValidChangesNothing) {
   auto context = withTreads({{0, 3}});
   auto const cfg = plan({{0, 1}}, {});
   cfg->treadV4ValidIs(false);
-  Traced traced("XpTableManSm/0-31");
+  Trace trace("XpTableManSm/0-31");
   doUpdateLpmTblCtx(50, &context, cfg);
   EXPECT_EQ(treadsOf(context), (Treads{{0, 3}}));
-  EXPECT_EQ(traced.lines, (Lines{"doUpdateLpmTblCtx tblGuid 50", " tread cfg not valid "}));
+  EXPECT_EQ(texts(trace), (Lines{"doUpdateLpmTblCtx tblGuid 50", " tread cfg not valid "}));
 }
 
 TEST(TreadsTest, MembersBehindTheLastPrefixTableAreNotRead) {
