@@ -10,10 +10,6 @@
 
 namespace Kestrel {
 
-/// "MATCH", "HASH", "DIRECT", "LPM", "ISME" or "NH"; a code of no table type ends the process by
-/// the assertion "false".
-char const* tableTypeToString(U8 type);
-
 /// Adds the chunks of one copy of a table to `memory`; neither pointer may be null.  A copy without
 /// entries adds none, and is traced at level 7 unless it is of type LPM.
 ///

@@ -5,7 +5,6 @@ namespace Kestrel::xpTableCliHelper {
 
 namespace {
 
-constexpr char const* typeSignature = "const char* Kestrel::tableTypeToString(U8)";
 constexpr char const* updateSignature =
     "void Kestrel::updateTableMemoryPerCopy(Kestrel::TableMemCollection::Ptr&, "
     "XpXdk::TableContextEntry::PtrConst&, U8)";
@@ -21,21 +20,7 @@ std::vector<std::string> emptyTrace(char const* text) {
   return {trace(7, "updateTableMemoryPerCopy", text)};
 }
 
-TEST(TableTypeTest, NamesOfTheSixTypes) {
-  EXPECT_STREQ(tableTypeToString(0), "MATCH");
-  EXPECT_STREQ(tableTypeToString(1), "HASH");
-  EXPECT_STREQ(tableTypeToString(2), "DIRECT");
-  EXPECT_STREQ(tableTypeToString(6), "LPM");
-  EXPECT_STREQ(tableTypeToString(7), "ISME");
-  EXPECT_STREQ(tableTypeToString(8), "NH");
-}
-
-TEST(TableTypeDeathTest, OtherCodesAreNoTypes) {
-  for (U8 code : {3, 4, 5, 9, 255})
-    expectAssertion([code] { tableTypeToString(code); }, "false", typeSignature);
-}
-
-TEST(TableTypeDeathTest, CopyOfNoTypeIsNotRead) {
+TEST(CopiesDeathTest, CopyOfNoTypeIsNotRead) {
   EntryPtr const entry = table(match(1, 0));
   entry->tableTypeIs(3);
   expectAssertion([&entry] { memoryOf(entry); }, "false", updateSignature);

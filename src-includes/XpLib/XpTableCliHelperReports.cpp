@@ -2,13 +2,13 @@
 #include "XpLib/XpTableCliHelper.h"
 #include "XpLib/XpTableCliHelperDecoding.h"
 #include "XpLib/XpTableCliHelperDiagnostics.h"
+#include "XpLib/XpTableCliHelperTypes.h"
 
 namespace Kestrel {
 
-namespace {
+using namespace xpTableCliHelper;
 
-using xpTableCliHelper::traceReport;
-using xpTableCliHelper::traceTableReport;
+namespace {
 
 template <class Iterator>
 U32 numRows(Iterator chunk) {

@@ -7,15 +7,9 @@ namespace {
 
 constexpr char const* headLine = "           Name   Type  Copies     SRAM     TCAM     ISME\n";
 
-TableCliHelper::Ptr helper(std::vector<EntryPtr> const& tables) {
-  return tableCliHelperFactory(chipWith(tables));
-}
-
 std::string line(EntryPtr const& entry) {
   return helper({entry})->displaySingleDynamicTableSummary(entry->tableId()).charPtr();
 }
-
-EntryPtr bare(U32 tableId, char const* name) { return new XpXdk::TableContextEntry(tableId, name); }
 
 std::string listed(TableCliHelper::Ptr const& helper) {
   auto const tables = helper->getTableCollection();

@@ -53,16 +53,19 @@ inline xpDirectTableContext blocks(U32 poolId, U32 start, U32 count) {
   return direct(1024 * count, 256, {poolId, start});
 }
 
-inline xpMatchTableContext match(U32 numDb, U8 startDb) {
+inline xpMatchTableContext match(U32 numDb, U8 startDb, U16 keySize = 0, U16 valueSize = 0) {
   xpMatchTableContext context;
   context.numDb = numDb;
+  context.keySize = keySize;
+  context.valueSize = valueSize;
   context.startDb = startDb;
   return context;
 }
 
-inline xpIsmeTableContext isme(U32 ismeNum, U32 entries, U32 tileStartId) {
+inline xpIsmeTableContext isme(U32 ismeNum, U32 entries, U32 tileStartId, U32 ldeNum = 0) {
   xpIsmeTableContext context;
   context.ismeNum = ismeNum;
+  context.ldeNum = ldeNum;
   context.numOfEntries = entries;
   context.tileStartId = tileStartId;
   return context;
@@ -84,10 +87,15 @@ inline xpLpmPrefixTable prefix(U32 entries, U32 entryWidth, Run run) {
   return {1, entries, entryWidth, 0, run.poolId, run.rowBlkStartId};
 }
 
+/// A published table without copies.
+inline EntryPtr bare(U32 tableId, char const* name) {
+  return new XpXdk::TableContextEntry(tableId, name);
+}
+
 /// A published table with those copies.
 template <class Context>
 EntryPtr table(U32 tableId, char const* name, std::vector<Context> const& copies) {
-  EntryPtr const entry = new XpXdk::TableContextEntry(tableId, name);
+  EntryPtr const entry = bare(tableId, name);
   for (std::size_t copy = 0; copy < copies.size(); ++copy)
     entry->xpTblContextIs(static_cast<U8>(copy), &copies[copy]);
   return entry;
@@ -102,6 +110,11 @@ inline XpSystem::ChipStatus::Ptr chipWith(std::vector<EntryPtr> const& tables) {
   XpSystem::ChipStatus::Ptr const status = new XpSystem::ChipStatus("chip");
   for (EntryPtr const& entry : tables) status->tableContextIs(entry);
   return status;
+}
+
+/// The reports of a chip that has those tables.
+inline TableCliHelper::Ptr helper(std::vector<EntryPtr> const& tables) {
+  return tableCliHelperFactory(chipWith(tables));
 }
 
 inline TableMemCollection::Ptr memoryOf(EntryPtr const& entry) {
