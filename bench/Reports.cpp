@@ -71,10 +71,8 @@ void sramMap(benchmark::State& state) {
   auto const tables = chip.bringUp();
   auto const status = chip.toolStatus();
   for (auto _ : state) {
-    auto const names = Kestrel::tableCollectionFactory();
-    auto const map = Kestrel::tableSramMemoryMapFactory();
-    Kestrel::buildSramMap(*status, *names, *map);
-    benchmark::DoNotOptimize(map->tableIdCount());
+    Kestrel::xpTableCliHelper::SramMap const map(*status);
+    benchmark::DoNotOptimize(map.numGroups());
   }
 }
 BENCHMARK(sramMap)->Unit(benchmark::kMicrosecond);

@@ -25,76 +25,89 @@ U32 blocksOf(U32 entries, U32 width) { return rowsOf(entries, width) >> rowsLog2
 
 U8 endOf(U32 start, U32 count) { return static_cast<U8>(start + count - 1); }
 
-void addRun(TableMemCollection& memory, U32 poolId, U32 start, U32 blocks) {
-  TableSramChunk const chunk(static_cast<U8>(poolId), static_cast<U8>(start), endOf(start, blocks));
-  memory.sramChunkIs(chunk, true);
+void addRun(Chunks& chunks, U32 poolId, U32 start, U32 blocks) {
+  chunks.sram.emplace_back(static_cast<U8>(poolId), static_cast<U8>(start), endOf(start, blocks));
 }
 
 // True for a count of 0, which is traced.
-bool tracedAsEmpty(TableMemCollection const& memory, U32 count, int line = __builtin_LINE()) {
+bool tracedAsEmpty(Chunks const& chunks, U32 count, int line = __builtin_LINE()) {
   if (count != 0) return false;
   Mox::traceAt(
       _defaultTraceHandle(), 7, {sourcePath, "updateTableMemoryPerCopy", line},
-      [&memory](std::ostream& text) { text << "Table " << memory.tableId() << " is empty"; });
+      [&chunks](std::ostream& text) { text << "Table " << chunks.tableId << " is empty"; });
   return true;
 }
 
-void addCopy(TableMemCollection& memory, xpMatchTableContext const& context) {
-  if (tracedAsEmpty(memory, context.numDb)) return;
-  memory.tcamChunkIs(TableTcamChunk(context.startDb, endOf(context.startDb, context.numDb)), true);
+void addCopy(Chunks& chunks, xpMatchTableContext const& context) {
+  if (tracedAsEmpty(chunks, context.numDb)) return;
+  chunks.tcam.emplace_back(context.startDb, endOf(context.startDb, context.numDb));
 }
 
-void addCopy(TableMemCollection& memory, xpHashTableContext const& context) {
-  if (tracedAsEmpty(memory, context.numOfEntries)) return;
+void addCopy(Chunks& chunks, xpHashTableContext const& context) {
+  if (tracedAsEmpty(chunks, context.numOfEntries)) return;
   U32 const entriesPerWay = context.numOfEntries / context.numOfWays;
   U32 const blocksPerWay = rowsOf(entriesPerWay, context, updateSignature) >> rowsLog2;
   for (U32 way = 0; way < context.numOfWays; ++way)
-    addRun(memory, context.poolId[way], context.rowBlkStartId[way], blocksPerWay);
+    addRun(chunks, context.poolId[way], context.rowBlkStartId[way], blocksPerWay);
 }
 
-void addCopy(TableMemCollection& memory, xpDirectTableContext const& context) {
-  if (tracedAsEmpty(memory, context.numOfEntries)) return;
-  addRun(memory, context.poolId, context.rowBlkStartId,
+void addCopy(Chunks& chunks, xpDirectTableContext const& context) {
+  if (tracedAsEmpty(chunks, context.numOfEntries)) return;
+  addRun(chunks, context.poolId, context.rowBlkStartId,
          blocksOf(context.numOfEntries, context.entryWidth));
 }
 
-void addCopy(TableMemCollection& memory, xpNhTableContext const& context) {
-  if (tracedAsEmpty(memory, context.numEntries)) return;
+void addCopy(Chunks& chunks, xpNhTableContext const& context) {
+  if (tracedAsEmpty(chunks, context.numEntries)) return;
   U32 const blocks = blocksOf(context.numEntries / numWays(context), context.entryWidth);
   for (U32 pool = 0; pool < numPools; ++pool)
-    if (isSet(context.poolBitmap, pool)) addRun(memory, pool, context.rowBlkStartId[pool], blocks);
+    if (isSet(context.poolBitmap, pool)) addRun(chunks, pool, context.rowBlkStartId[pool], blocks);
 }
 
-void addTiles(TableMemCollection& memory, U32 pool, U32 tileBitmap) {
+void addTiles(Chunks& chunks, U32 pool, U32 tileBitmap) {
   for (U32 tile = 0; tile < numTiles; ++tile)
-    if (isSet(tileBitmap, tile)) addRun(memory, pool, tile * blocksPerTile, blocksPerTile);
+    if (isSet(tileBitmap, tile)) addRun(chunks, pool, tile * blocksPerTile, blocksPerTile);
 }
 
-void addCopy(TableMemCollection& memory, xpLpmTableContext const& context) {
+void addCopy(Chunks& chunks, xpLpmTableContext const& context) {
   for (xpLpmPrefixTable const& prefixTable : context.prefixTable) {
     if (prefixTable.valid == 0) continue;
-    addRun(memory, prefixTable.poolId, prefixTable.rowBlkStartId,
+    addRun(chunks, prefixTable.poolId, prefixTable.rowBlkStartId,
            blocksOf(prefixTable.numOfEntries, prefixTable.entryWidth));
   }
   xpLpmNhiTable const& nhiTable = context.nhiTable;
   for (U32 pool = 0; pool < numPools; ++pool)
-    if (isSet(nhiTable.poolBitmap, pool)) addTiles(memory, pool, nhiTable.tileBitmap[pool]);
+    if (isSet(nhiTable.poolBitmap, pool)) addTiles(chunks, pool, nhiTable.tileBitmap[pool]);
 }
 
-void addCopy(TableMemCollection& memory, xpIsmeTableContext const& context) {
-  if (tracedAsEmpty(memory, context.numOfEntries)) return;
+void addCopy(Chunks& chunks, xpIsmeTableContext const& context) {
+  if (tracedAsEmpty(chunks, context.numOfEntries)) return;
   U32 const tiles = context.numOfEntries >> entriesLog2;
-  TableIsmeChunk const chunk(static_cast<U8>(context.ismeNum), static_cast<U8>(context.tileStartId),
-                             endOf(context.tileStartId, tiles));
-  memory.ismeChunkIs(chunk, true);
+  chunks.isme.emplace_back(static_cast<U8>(context.ismeNum), static_cast<U8>(context.tileStartId),
+                           endOf(context.tileStartId, tiles));
+}
+
+void readCopy(Chunks& chunks, XpXdk::TableContextEntry const& entry, U32 copy) {
+  std::visit([&chunks](auto const& context) { addCopy(chunks, context); },
+             contextOf(entry, static_cast<U8>(copy), updateSignature));
 }
 
 }  // namespace
 
 void updateTableMemoryPerCopy(TableMemCollection::Ptr& memory,
                               XpXdk::TableContextEntry::PtrConst& entry, U8 copy) {
-  std::visit([&memory](auto const& context) { addCopy(*memory, context); },
-             contextOf(*entry, copy, updateSignature));
+  Chunks chunks{memory->tableId(), {}, {}, {}};
+  readCopy(chunks, *entry, copy);
+  for (TableSramChunk const& chunk : chunks.sram) memory->sramChunkIs(chunk, true);
+  for (TableTcamChunk const& chunk : chunks.tcam) memory->tcamChunkIs(chunk, true);
+  for (TableIsmeChunk const& chunk : chunks.isme) memory->ismeChunkIs(chunk, true);
+}
+
+Chunks tableChunks(XpXdk::TableContextEntry const& entry) {
+  Chunks chunks{entry.tableId(), {}, {}, {}};
+  U32 const copies = numCopies(entry);
+  for (U32 copy = 0; copy < copies; ++copy) readCopy(chunks, entry, copy);
+  return chunks;
 }
 
 TableMemCollection::Ptr tableMemory(XpXdk::TableContextEntry::PtrConst& entry) {

@@ -8,6 +8,8 @@
 #include "XpLib/XpTableCliHelper.h"
 #include "XpXdk/TableContextEntry.h"
 
+#include <vector>
+
 namespace Kestrel {
 
 /// Adds the chunks of one copy of a table to `memory`; neither pointer may be null.  A copy without
@@ -19,6 +21,18 @@ namespace Kestrel {
 /// or no way at all, is a division by zero, and so doesn't come here.
 void updateTableMemoryPerCopy(TableMemCollection::Ptr& memory,
                               XpXdk::TableContextEntry::PtrConst& entry, U8 copy);
+
+/// Runs of memory as the contexts of a table tell them: in their order, and as often as they do.
+struct Chunks {
+  U32 tableId;
+  std::vector<TableSramChunk> sram;
+  std::vector<TableTcamChunk> tcam;
+  std::vector<TableIsmeChunk> isme;
+};
+
+/// The runs of all copies of the table, with the traces and assertions of
+/// `updateTableMemoryPerCopy`.
+Chunks tableChunks(XpXdk::TableContextEntry const& entry);
 
 /// The memory of all copies of the table, which are at most 256.
 TableMemCollection::Ptr tableMemory(XpXdk::TableContextEntry::PtrConst& entry);

@@ -10,6 +10,7 @@ inline constexpr U32 rowWidth = 256;     ///< bits of an SRAM row
 inline constexpr U32 numPools = 8;       ///< of the SRAM
 inline constexpr U32 numTiles = 8;       ///< of a pool at most, and in every bitmap of tiles
 inline constexpr U32 blocksPerTile = 8;  ///< row blocks
+inline constexpr U32 blocksPerPool = numTiles * blocksPerTile;
 
 inline bool isSet(U32 bitmap, U32 bit) { return (bitmap >> bit & 1) != 0; }
 

@@ -174,8 +174,8 @@ TEST(XpTableCliHelperModuleTest, OperationsOfTheHelper) {
   EXPECT_EQ(
       attributes(*TableCliHelper::_fwkType()),
       (Strings{"130 chipStatus", "131 getTableCollection", "132 displayAllDynamicTablesSummary",
-               "133 displayAllDynamicTablesDetail", "135 displaySingleDynamicTableDetail",
-               "136 displaySingleDynamicTableSummary"}));
+               "133 displayAllDynamicTablesDetail", "134 displaySramAllocationGraph",
+               "135 displaySingleDynamicTableDetail", "136 displaySingleDynamicTableSummary"}));
 }
 
 TEST(XpTableCliHelperModuleTest, KindsAndBases) {

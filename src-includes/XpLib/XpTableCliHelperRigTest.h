@@ -105,6 +105,11 @@ EntryPtr table(Context const& onlyCopy) {
   return table(1, "T", std::vector{onlyCopy});
 }
 
+template <class Context>
+EntryPtr named(U32 tableId, char const* name, Context const& onlyCopy) {
+  return table(tableId, name, std::vector{onlyCopy});
+}
+
 /// A status that has those tables.
 inline XpSystem::ChipStatus::Ptr chipWith(std::vector<EntryPtr> const& tables) {
   XpSystem::ChipStatus::Ptr const status = new XpSystem::ChipStatus("chip");

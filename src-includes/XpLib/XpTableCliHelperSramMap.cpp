@@ -3,39 +3,40 @@
 
 #include "XpLib/XpTableCliHelperDecoding.h"
 
-namespace Kestrel {
+#include <algorithm>
 
-namespace {
+namespace Kestrel::xpTableCliHelper {
 
-void enterBlock(TableSramMemoryMap& map, TableSramChunk const& block, U32 tableId) {
-  SharedTableGroup group = map.tableId(block);
-  group.tableIdIs(tableId, true);
-  map.tableIdIs(block, group);
+SramMap::SramMap(XpSystem::ChipStatus const& chipStatus) {
+  for (auto at = chipStatus.tableContextIteratorConst(); at; ++at) enterTable(*at.value());
 }
 
-void enterChunk(TableSramMemoryMap& map, TableSramChunk const& chunk, U32 tableId) {
-  // The counter is wider than the block number, so that it passes block 255.
-  for (U32 at = chunk.startRowBlkId(); at <= chunk.endRowBlkId(); ++at) {
-    U8 const block = static_cast<U8>(at);
-    enterBlock(map, TableSramChunk(chunk.poolId(), block, block), tableId);
+void SramMap::enterTable(XpXdk::TableContextEntry const& entry) {
+  Chunks const chunks = tableChunks(entry);
+  Enlarged enlarged;
+  for (TableSramChunk const& chunk : chunks.sram) enterChunk(chunk, chunks.tableId, enlarged);
+}
+
+void SramMap::enterChunk(TableSramChunk const& chunk, U32 tableId, Enlarged& enlarged) {
+  if (chunk.poolId() >= numPools) return;
+  U32 const end = std::min(U32{chunk.endRowBlkId()} + 1, blocksPerPool);
+  for (U32 block = chunk.startRowBlkId(); block < end; ++block) {
+    U32& group = groupAt_[chunk.poolId()][block];
+    group = withTable(group, tableId, enlarged);
   }
 }
 
-bool hasBlocks(TableSramChunk const& chunk) { return chunk.startRowBlkId() <= chunk.endRowBlkId(); }
-
-}  // namespace
-
-void buildSramMap(XpSystem::ChipStatus const& chipStatus, TableCollection& tables,
-                  TableSramMemoryMap& map) {
-  for (auto at = chipStatus.tableContextIteratorConst(); at; ++at) {
-    XpXdk::TableContextEntry::PtrConst entry = at.value();
-    TableMemCollection::Ptr const memory = tableMemory(entry);
-    for (auto chunk = memory->sramChunkIteratorConst(); chunk; ++chunk) {
-      if (!hasBlocks(chunk.key())) continue;
-      enterChunk(map, chunk.key(), entry->tableId());
-      tables.tableNameIs(entry->tableId(), entry->tableName());
-    }
+// Tables are entered one after the other, so that each group is reached on one way only: none is
+// made twice, and one that has the table already comes out of this very step.
+U32 SramMap::withTable(U32 group, U32 tableId, Enlarged& enlarged) {
+  U32 const fresh = numGroups();
+  auto const [found, isNew] = enlarged.try_emplace(group, fresh);
+  if (isNew) {
+    enlarged.emplace(fresh, fresh);
+    groups_.push_back(groups_[group]);
+    groups_.back().newTableId(tableId, true);
   }
+  return found->second;
 }
 
-}  // namespace Kestrel
+}  // namespace Kestrel::xpTableCliHelper

@@ -2,17 +2,42 @@
 #pragma once
 
 #include "XpLib/XpTableCliHelper.h"
+#include "XpLib/XpTableCliHelperMemory.h"
 #include "XpSystem/ChipStatus.h"
 
-namespace Kestrel {
+#include <deque>
+#include <map>
 
-/// Enters the blocks of all tables of `chipStatus` into the `tableId` of `map`, and the names of
-/// the tables that have blocks into `tables`; both are empty before.
+namespace Kestrel::xpTableCliHelper {
+
+/// The groups of tables in pools 0 to 7, blocks 0 to 63, as they stand when it is made.
 ///
 /// Tables are grouped block by block: two that share some blocks only form a group of two on these,
 /// and are alone on the others.  All copies of a table count as the table.  A run that ends below
-/// its start has no block; one of no blocks at block 0 ends at 255 and takes all 256.
-void buildSramMap(XpSystem::ChipStatus const& chipStatus, TableCollection& tables,
-                  TableSramMemoryMap& map);
+/// its start has no block; one of no blocks at block 0 ends at 255 and takes the whole pool.
+///
+/// Groups have numbers, so that each is held once however many blocks it lies on.
+class SramMap {
+ public:
+  explicit SramMap(XpSystem::ChipStatus const& chipStatus);
 
-}  // namespace Kestrel
+  /// The number of the group that lies on a block; 0 where there is none.
+  U32 groupAt(U32 pool, U32 block) const { return groupAt_[pool][block]; }
+  /// The tables of a group.  Group 0 is the empty one; no two are equal.
+  SharedTableGroup const& group(U32 number) const { return groups_[number]; }
+  /// Groups that have a number.  One that later tables have made larger everywhere lies nowhere.
+  U32 numGroups() const { return static_cast<U32>(groups_.size()); }
+
+ private:
+  /// What the groups become with the table that is being entered: number to number.
+  using Enlarged = std::map<U32, U32>;
+
+  void enterTable(XpXdk::TableContextEntry const& entry);
+  void enterChunk(TableSramChunk const& chunk, U32 tableId, Enlarged& enlarged);
+  U32 withTable(U32 group, U32 tableId, Enlarged& enlarged);
+
+  std::deque<SharedTableGroup> groups_{1};
+  U32 groupAt_[numPools][blocksPerPool] = {};
+};
+
+}  // namespace Kestrel::xpTableCliHelper
