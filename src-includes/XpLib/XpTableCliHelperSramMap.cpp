@@ -11,32 +11,34 @@ SramMap::SramMap(XpSystem::ChipStatus const& chipStatus) {
   for (auto at = chipStatus.tableContextIteratorConst(); at; ++at) enterTable(*at.value());
 }
 
-void SramMap::enterTable(XpXdk::TableContextEntry const& entry) {
-  Chunks const chunks = tableChunks(entry);
-  Enlarged enlarged;
-  for (TableSramChunk const& chunk : chunks.sram) enterChunk(chunk, chunks.tableId, enlarged);
+SharedTableGroup SramMap::group(U32 number) const {
+  if (number == 0) return SharedTableGroup();
+  SharedTableGroup tables = group(groups_[number].others);
+  tables.newTableId(groups_[number].tableId, true);
+  return tables;
 }
 
-void SramMap::enterChunk(TableSramChunk const& chunk, U32 tableId, Enlarged& enlarged) {
-  if (chunk.poolId() >= numPools) return;
-  U32 const end = std::min(U32{chunk.endRowBlkId()} + 1, blocksPerPool);
-  for (U32 block = chunk.startRowBlkId(); block < end; ++block) {
-    U32& group = groupAt_[chunk.poolId()][block];
-    group = withTable(group, tableId, enlarged);
+void SramMap::enterTable(XpXdk::TableContextEntry const& entry) {
+  U32 const firstOfTable = numGroups();
+  Chunks const chunks = tableChunks(entry);
+  for (TableSramChunk const& chunk : chunks.sram) {
+    if (chunk.poolId() >= numPools) continue;
+    U32 const end = std::min(U32{chunk.endRowBlkId()} + 1, blocksPerPool);
+    for (U32 block = chunk.startRowBlkId(); block < end; ++block) {
+      U32& group = groupAt_[chunk.poolId()][block];
+      group = withTable(group, entry.tableId(), firstOfTable);
+    }
   }
 }
 
 // Tables are entered one after the other, so that each group is reached on one way only: none is
-// made twice, and one that has the table already comes out of this very step.
-U32 SramMap::withTable(U32 group, U32 tableId, Enlarged& enlarged) {
-  U32 const fresh = numGroups();
-  auto const [found, isNew] = enlarged.try_emplace(group, fresh);
-  if (isNew) {
-    enlarged.emplace(fresh, fresh);
-    groups_.push_back(groups_[group]);
-    groups_.back().newTableId(tableId, true);
-  }
-  return found->second;
+// made twice but within the table, and one that is as new as the table has it already.
+U32 SramMap::withTable(U32 group, U32 tableId, U32 firstOfTable) {
+  if (group >= firstOfTable) return group;
+  for (U32 made = firstOfTable; made < numGroups(); ++made)
+    if (groups_[made].others == group) return made;
+  groups_.push_back({group, tableId});
+  return numGroups() - 1;
 }
 
 }  // namespace Kestrel::xpTableCliHelper

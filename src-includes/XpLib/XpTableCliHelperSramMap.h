@@ -5,8 +5,7 @@
 #include "XpLib/XpTableCliHelperMemory.h"
 #include "XpSystem/ChipStatus.h"
 
-#include <deque>
-#include <map>
+#include <vector>
 
 namespace Kestrel::xpTableCliHelper {
 
@@ -16,27 +15,31 @@ namespace Kestrel::xpTableCliHelper {
 /// and are alone on the others.  All copies of a table count as the table.  A run that ends below
 /// its start has no block; one of no blocks at block 0 ends at 255 and takes the whole pool.
 ///
-/// Groups have numbers, so that each is held once however many blocks it lies on.
+/// Groups have numbers, so that each is held once however many blocks it lies on, and a larger one
+/// as what it has beside a smaller.
 class SramMap {
  public:
   explicit SramMap(XpSystem::ChipStatus const& chipStatus);
 
   /// The number of the group that lies on a block; 0 where there is none.
   U32 groupAt(U32 pool, U32 block) const { return groupAt_[pool][block]; }
-  /// The tables of a group.  Group 0 is the empty one; no two are equal.
-  SharedTableGroup const& group(U32 number) const { return groups_[number]; }
+  /// The tables of a group, which have come into it in the order of the walk.  Group 0 is the empty
+  /// one; no two are equal.
+  SharedTableGroup group(U32 number) const;
   /// Groups that have a number.  One that later tables have made larger everywhere lies nowhere.
   U32 numGroups() const { return static_cast<U32>(groups_.size()); }
 
  private:
-  /// What the groups become with the table that is being entered: number to number.
-  using Enlarged = std::map<U32, U32>;
+  /// A table beside the tables of another group.
+  struct Group {
+    U32 others;
+    U32 tableId;
+  };
 
   void enterTable(XpXdk::TableContextEntry const& entry);
-  void enterChunk(TableSramChunk const& chunk, U32 tableId, Enlarged& enlarged);
-  U32 withTable(U32 group, U32 tableId, Enlarged& enlarged);
+  U32 withTable(U32 group, U32 tableId, U32 firstOfTable);
 
-  std::deque<SharedTableGroup> groups_{1};
+  std::vector<Group> groups_{{0, 0}};
   U32 groupAt_[numPools][blocksPerPool] = {};
 };
 
