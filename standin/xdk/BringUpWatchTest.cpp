@@ -22,6 +22,11 @@ void endBringUp() { xpEgressAclMgr::instance()->addDevice(0, XP_INIT_COLD); }
 
 void inAnotherThread(void (*step)()) { std::thread(step).join(); }
 
+/// The history behind the line, where `addFdb` was the one call.
+std::string const afterFdb =
+    "simulated SDK: the last call:\n"
+    "xpFdbMgr.0.::addDevice device=0 table=- copies=1 mode=1 -> 0\n$";
+
 struct BringUpWatchTest : testing::Test {
   BringUpWatchTest() { testing::FLAGS_gtest_death_test_style = "threadsafe"; }
   Sim sim;
@@ -71,7 +76,8 @@ TEST_F(BringUpWatchTest, CallFromAnotherThreadMeetsABringUp) {
         inAnotherThread(addFdb);
       },
       "^simulated SDK: two bring-ups overlap: that of device 0 stands at xpFdbMgr.0.::addDevice, "
-      "and another thread calls xpFdbMgr.0.::addDevice\n$");
+      "and another thread calls xpFdbMgr.0.::addDevice\n" +
+          afterFdb);
 }
 
 TEST_F(BringUpWatchTest, SecondBringUpBeginsWithinTheFirst) {
@@ -106,7 +112,8 @@ TEST_F(BringUpWatchTest, TwoThreadsInsideCalls) {
         addFdb();
       },
       "^simulated SDK: two threads at a time: xpEgressAclMgr::init is called while another thread "
-      "is inside xpFdbMgr.0.::addDevice\n$");
+      "is inside xpFdbMgr.0.::addDevice\n" +
+          afterFdb);
 }
 
 TEST_F(BringUpWatchTest, ResetForgetsABringUp) {
@@ -134,7 +141,8 @@ TEST_F(BringUpWatchTest, AnnouncedWithinAnAnnouncedOne) {
         BringUp inner(sim, 1);
       },
       "^simulated SDK: two bring-ups overlap: that of device 0 stands at xpFdbMgr.0.::addDevice, "
-      "and the same thread begins one of device 1\n$");
+      "and the same thread begins one of device 1\n" +
+          afterFdb);
 }
 
 TEST_F(BringUpWatchTest, AnnouncedOneIsMetBeforeItsFirstCall) {

@@ -18,39 +18,47 @@ std::string tableText(xpTableContext* const* word, xpTableProfile const* tables)
   return std::to_string(id - std::begin(tables->tblCtx));
 }
 
-std::string listText(std::vector<xpTblCtxPerIdx*> const& list, xpTableProfile const* tables) {
-  std::string text;
+void appendList(std::string& line, std::vector<xpTblCtxPerIdx*> const& list,
+                xpTableProfile const* tables) {
+  char const* separator = "";
   for (xpTblCtxPerIdx const* record : list) {
-    if (!text.empty()) text += ',';
-    text += std::to_string(record->tblIdx) + ':' + tableText(record->tblCtx, tables) + '/' +
-            std::to_string(record->numCopies) + '/' + std::to_string(record->tableIdForMgr);
+    line += separator;
+    line += std::to_string(record->tblIdx) + ':' + tableText(record->tblCtx, tables) + '/';
+    line += std::to_string(record->numCopies) + '/' + std::to_string(record->tableIdForMgr);
+    separator = ",";
   }
-  return text;
 }
 
-std::string argumentText(Argument argument, CallArguments const& arguments,
-                         xpTableProfile const* tables) {
+U32 numberOf(Argument argument, CallArguments const& arguments) {
   switch (argument) {
-    case Argument::none:
-      break;
     case Argument::device:
-      return std::to_string(arguments.device);
-    case Argument::table:
-      return tableText(arguments.table, tables);
-    case Argument::list:
-      return listText(*arguments.list, tables);
+      return arguments.device;
     case Argument::copies:
-      return std::to_string(arguments.copies);
+      return arguments.copies;
     case Argument::mode:
-      return std::to_string(arguments.mode);
+      return arguments.mode;
     case Argument::init:
-      return std::to_string(arguments.init);
+      return arguments.init;
     case Argument::vif:
-      return std::to_string(arguments.vif);
+      return arguments.vif;
     case Argument::direction:
-      return std::to_string(arguments.direction);
+      return arguments.direction;
+    case Argument::none:
+    case Argument::table:
+    case Argument::list:
+      break;
   }
-  return "";
+  return 0;
+}
+
+void appendArgument(std::string& line, Argument argument, CallArguments const& arguments,
+                    xpTableProfile const* tables) {
+  if (argument == Argument::table)
+    line += tableText(arguments.table, tables);
+  else if (argument == Argument::list)
+    appendList(line, *arguments.list, tables);
+  else
+    line += std::to_string(numberOf(argument, arguments));
 }
 
 }  // namespace
@@ -59,17 +67,28 @@ CallLog streamLog(std::ostream& out) {
   return [&out](std::string_view line) { out << line << '\n' << std::flush; };
 }
 
-std::string callLine(ManagerId manager, Call call, CallArguments const& arguments, XP_STATUS status,
-                     xpTableProfile const* tables) {
+// A piece at a time, none of them longer than what a string holds without allocating.
+void appendCall(std::string& line, ManagerId manager, Call call, CallArguments const& arguments,
+                xpTableProfile const* tables) {
   Operation const& operation = operationOf(call);
-  std::string line = manager.name() + "::" + operation.name;
+  manager.appendName(line);
+  line += "::";
+  line += operation.name;
   for (Argument argument : operation.arguments) {
     if (argument == Argument::none) break;
     line += ' ';
     line += argumentName(argument);
-    line += '=' + argumentText(argument, arguments, tables);
+    line += '=';
+    appendArgument(line, argument, arguments, tables);
   }
-  return line + " -> " + std::to_string(status);
+  line += " -> ";
+}
+
+std::string callLine(ManagerId manager, Call call, CallArguments const& arguments, XP_STATUS status,
+                     xpTableProfile const* tables) {
+  std::string line;
+  appendCall(line, manager, call, arguments, tables);
+  return line + std::to_string(status);
 }
 
 }  // namespace xdksim

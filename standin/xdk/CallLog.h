@@ -33,8 +33,12 @@ using CallLog = std::function<void(std::string_view line)>;
 /// Writes each line to `out`, which must outlive the log, and flushes it.
 CallLog streamLog(std::ostream& out);
 
-/// "xpBdMgr[0]::addDevice device=0 table=31 copies=1 mode=1 -> 0".  Table ids are looked up in
-/// `tables`, the profile of the device; a context that isn't in it, or no profile, shows "?".
+/// Appends "xpBdMgr[0]::addDevice device=0 table=31 copies=1 mode=1 -> ", all but the status. Table
+/// ids are looked up in `tables`, the profile of the device; a context that isn't in it, or no
+/// profile, shows "?".
+void appendCall(std::string& line, ManagerId manager, Call call, CallArguments const& arguments,
+                xpTableProfile const* tables);
+/// The whole line, with its status.
 std::string callLine(ManagerId manager, Call call, CallArguments const& arguments, XP_STATUS status,
                      xpTableProfile const* tables);
 

@@ -119,8 +119,14 @@ std::string Operation::shown() const {
 }
 
 std::string ManagerId::name() const {
-  if (row->isSingleton()) return row->name;
-  return std::string(row->name) + '[' + std::to_string(index) + ']';
+  std::string text;
+  appendName(text);
+  return text;
+}
+
+void ManagerId::appendName(std::string& text) const {
+  text += row->name;
+  if (!row->isSingleton()) text += '[' + std::to_string(index) + ']';
 }
 
 char const* reachName(Reach reach) {

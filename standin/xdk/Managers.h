@@ -74,6 +74,7 @@ struct ManagerId {
   bool operator==(ManagerId const&) const = default;
   /// "xpFdbMgr[0]", and a singleton's bare name.
   std::string name() const;
+  void appendName(std::string& text) const;
 };
 
 std::span<Manager const> managers();

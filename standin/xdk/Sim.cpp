@@ -3,6 +3,8 @@
 
 #include "Xdk/Xdk.h"
 #include "standin/xdk/BringUpWatch.h"
+#include "standin/xdk/History.h"
+#include "standin/xdk/LastWords.h"
 #include "standin/xdk/Misuse.h"
 #include "standin/xdk/SimDevice.h"
 #include "standin/xdk/StatusRules.h"
@@ -27,6 +29,8 @@ struct Sim::State {
   void fillIds();
   void deviceIs(Profile profile);
   xpPrimitiveMgr* object(ManagerId id);
+  ManagerId identityOf(xpPrimitiveMgr const& manager, Call call) const;
+  xpTableProfile const* tablesOf(U32 deviceId) const;
 
   std::map<U32, std::unique_ptr<SimDevice>> devices;
   std::map<std::pair<Manager const*, U32>, std::unique_ptr<xpPrimitiveMgr>> objects;
@@ -35,6 +39,7 @@ struct Sim::State {
   StatusRules rules;
   BringUpWatch watch;
   CallLog log;
+  History history;
 };
 
 Sim::State::State() {
@@ -80,13 +85,37 @@ xpPrimitiveMgr* Sim::State::object(ManagerId id) {
   return object.get();
 }
 
+ManagerId Sim::State::identityOf(xpPrimitiveMgr const& manager, Call call) const {
+  auto identity = identities.find(&manager);
+  if (identity == identities.end())
+    misuse(std::string(operationOf(call).name) +
+           " is called on a manager that it never handed out");
+  ManagerId id = identity->second;
+  if (!id.row->has(call)) misuse(id.name() + " lacks " + operationOf(call).shown());
+  return id;
+}
+
+xpTableProfile const* Sim::State::tablesOf(U32 deviceId) const {
+  auto device = devices.find(deviceId);
+  return device == devices.end() ? nullptr : &device->second->tableProfile();
+}
+
 Sim::Sim(Profile profile) : profile_(std::move(profile)) {
   if (live) throw std::logic_error("a simulated SDK lives already");
   reset();
   live = this;
+  lastWords_ = std::make_unique<LastWords>(tellHistory);
 }
 
-Sim::~Sim() { live = nullptr; }
+Sim::~Sim() {
+  lastWords_.reset();
+  live = nullptr;
+}
+
+// In a signal handler: no state while a reset is between two.
+void Sim::tellHistory() {
+  if (live && live->state_) live->state_->history.tell();
+}
 
 Sim& Sim::current() {
   if (!live) misuse("it is called while there is none; make an xdksim::Sim first");
@@ -128,20 +157,12 @@ void Sim::idsDelAll(std::string_view manager) {
 void Sim::callLogIs(CallLog log) { state_->log = std::move(log); }
 
 XP_STATUS Sim::call(xpPrimitiveMgr const& manager, Call call, CallArguments const& arguments) {
-  auto identity = state_->identities.find(&manager);
-  if (identity == state_->identities.end())
-    misuse(std::string(operationOf(call).name) +
-           " is called on a manager that it never handed out");
-  ManagerId id = identity->second;
-  if (!id.row->has(call)) misuse(id.name() + " lacks " + operationOf(call).shown());
-
+  ManagerId id = state_->identityOf(manager, call);
   BringUpWatch::Inside inside(state_->watch, id, call);
+  state_->history.callBegins(id, call, arguments, state_->tablesOf(arguments.device));
   XP_STATUS status = state_->rules.next(id, call);
-  if (state_->log) {
-    auto device = state_->devices.find(arguments.device);
-    auto* tables = device == state_->devices.end() ? nullptr : &device->second->tableProfile();
-    state_->log(callLine(id, call, arguments, status, tables));
-  }
+  state_->history.callEnds(status);
+  if (state_->log) state_->log(state_->history.last());
   return status;
 }
 

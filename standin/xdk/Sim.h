@@ -13,9 +13,12 @@ class xpTableProfile;
 
 namespace xdksim {
 
+class LastWords;
+
 /// One simulated SDK, which is there while this object lives; the SDK's own declarations work on
 /// it. A process may have many, one after another.  Without one, every operation of the SDK ends
-/// the process with a line that says so.  What it does depends on profile and calls alone.
+/// the process with a line that says so.  What it does depends on profile and calls alone.  When
+/// the process aborts, its last 256 calls are written to standard error.
 class Sim {
  public:
   /// Knows the device of `profile`, and has an id in the `myId` of each manager class for every
@@ -30,7 +33,8 @@ class Sim {
   /// The one that lives; ends the process when there is none.
   static Sim& current();
 
-  /// Everything as after construction: devices, contexts, ids, statuses, counts; no call log.
+  /// Everything as after construction: devices, contexts, ids, statuses, counts; no call log, no
+  /// history of calls.
   /// Pointers that the SDK handed out before are void.
   void reset();
 
@@ -66,8 +70,11 @@ class Sim {
   friend class BringUp;
   struct State;
 
+  static void tellHistory();
+
   Profile profile_;
   std::unique_ptr<State> state_;
+  std::unique_ptr<LastWords> lastWords_;
 };
 
 /// Announces a bring-up for as long as it lives, so that another within it is found also on the

@@ -1,0 +1,264 @@
+// What stands on standard error behind the line of an abort, to the byte.
+#include "Xdk/Xdk.h"
+#include "standin/xdk/History.h"
+#include "standin/xdk/LastWords.h"
+#include "standin/xdk/Misuse.h"
+#include "standin/xdk/Sim.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace xdksim {
+namespace {
+
+using testing::KilledBySignal;
+
+/// Aborts with a line of its own in front, as an assertion does.
+[[noreturn]] void fail() {
+  std::fputs("it failed\n", stderr);
+  std::abort();
+}
+
+void initEgress() { xpEgressAclMgr::instance()->init(); }
+
+/// Both ways in which a test can watch a process die.
+struct HistoryTest : testing::TestWithParam<char const*> {
+  HistoryTest() { testing::FLAGS_gtest_death_test_style = GetParam(); }
+};
+INSTANTIATE_TEST_SUITE_P(Styles, HistoryTest, testing::Values("fast", "threadsafe"),
+                         [](auto const& style) { return std::string(style.param); });
+
+/// The process is ended by that signal when `step` has run, and standard error is `expected`.
+template <class Step>
+void expectEnd(int signal, Step const& step, std::string const& expected) {
+  EXPECT_EXIT(step(), KilledBySignal(signal), testing::StrEq(expected));
+}
+
+TEST_P(HistoryTest, CallsStandBehindTheLineOfTheAbort) {
+  expectEnd(
+      SIGABRT,
+      [] {
+        Sim sim;
+        sim.statusIs("xpEgressAclMgr::addDevice", {-3});
+        initEgress();
+        xpEgressAclMgr::instance()->addDevice(0, XP_INIT_COLD);
+        fail();
+      },
+      "it failed\n"
+      "simulated SDK: the last 2 calls:\n"
+      "xpEgressAclMgr::init -> 0\n"
+      "xpEgressAclMgr::addDevice device=0 init=1 -> -3\n");
+}
+
+TEST_P(HistoryTest, OneCallIsNotSeveral) {
+  expectEnd(
+      SIGABRT,
+      [] {
+        Sim sim;
+        initEgress();
+        fail();
+      },
+      "it failed\nsimulated SDK: the last call:\nxpEgressAclMgr::init -> 0\n");
+}
+
+TEST_P(HistoryTest, NoCallsNoHeading) {
+  expectEnd(
+      SIGABRT,
+      [] {
+        Sim sim;
+        xpDeviceMgr::instance()->getDeviceObj(0)->getTableProfile();
+        fail();
+      },
+      "it failed\n");
+}
+
+TEST_P(HistoryTest, NothingIsToldWithoutASim) {
+  expectEnd(
+      SIGABRT,
+      [] {
+        {
+          Sim sim;
+          initEgress();
+        }
+        fail();
+      },
+      "it failed\n");
+}
+
+TEST_P(HistoryTest, ResetForgetsTheCalls) {
+  expectEnd(
+      SIGABRT,
+      [] {
+        Sim sim;
+        initEgress();
+        sim.reset();
+        fail();
+      },
+      "it failed\n");
+}
+
+TEST_P(HistoryTest, MisuseIsAnAbortLikeAnyOther) {
+  expectEnd(
+      SIGABRT,
+      [] {
+        Sim sim;
+        initEgress();
+        xpEgressAclMgr::instance()->loadDefaultValue(0);
+      },
+      "simulated SDK: xpEgressAclMgr lacks loadDefaultValue device=\n"
+      "simulated SDK: the last call:\nxpEgressAclMgr::init -> 0\n");
+}
+
+TEST_P(HistoryTest, SignalFromOutsideIsAnAbortToo) {
+  expectEnd(
+      SIGABRT,
+      [] {
+        Sim sim;
+        initEgress();
+        kill(getpid(), SIGABRT);
+      },
+      "simulated SDK: the last call:\nxpEgressAclMgr::init -> 0\n");
+}
+
+TEST_P(HistoryTest, AnotherEndTellsNothing) {
+  expectEnd(
+      SIGKILL,
+      [] {
+        Sim sim;
+        initEgress();
+        raise(SIGKILL);
+      },
+      "");
+  EXPECT_EXIT(
+      {
+        Sim sim;
+        initEgress();
+        std::exit(3);
+      },
+      testing::ExitedWithCode(3), "^$");
+}
+
+std::string egressInits(U32 number) {
+  std::string text;
+  for (U32 i = 0; i < number; ++i) text += "xpEgressAclMgr::init -> " + std::to_string(i) + '\n';
+  return text;
+}
+
+/// Standard error of a process that has called that many times, each call with its number as
+/// status.
+std::string toldAfter(U32 number) {
+  std::string told;
+  auto const take = [&told](std::string const& text) { return told = text, true; };
+  EXPECT_EXIT(
+      {
+        Sim sim;
+        std::vector<S32> statuses;
+        for (U32 i = 0; i < number; ++i) statuses.push_back(static_cast<S32>(i));
+        sim.statusIs("xpEgressAclMgr::init", statuses);
+        for (U32 i = 0; i < number; ++i) initEgress();
+        std::abort();
+      },
+      KilledBySignal(SIGABRT), testing::Truly(take));
+  return told;
+}
+
+TEST(HistoryRoomTest, TheLast256StandInIt) {
+  EXPECT_EQ(toldAfter(256), "simulated SDK: the last 256 calls:\n" + egressInits(256));
+}
+
+TEST(HistoryRoomTest, OldestGoFirstWhenThereAreMore) {
+  std::string expected = egressInits(600);
+  std::string first = egressInits(600 - 256);
+  EXPECT_EQ(toldAfter(600), "simulated SDK: the last 256 calls:\n" + expected.substr(first.size()));
+}
+
+ManagerId fdb() { return {managerOf("xpFdbMgr"), 0}; }
+
+TEST(HistoryLineTest, CallThatHasNotAnsweredHasNoStatus) {
+  History history;
+  history.callBegins(fdb(), Call::addTable, {.device = 3, .copies = 1, .mode = 1}, nullptr);
+  EXPECT_EQ(history.last(), "xpFdbMgr[0]::addDevice device=3 table=- copies=1 mode=1 -> ?");
+  history.callEnds(42);
+  EXPECT_EQ(history.last(), "xpFdbMgr[0]::addDevice device=3 table=- copies=1 mode=1 -> 42");
+}
+
+TEST(HistoryLineTest, ShorterLineReplacesALongerOne) {
+  History history;
+  for (U32 i = 0; i <= History::room; ++i) {
+    bool isLong = i == 0;
+    history.callBegins(fdb(), isLong ? Call::addTable : Call::init, {}, nullptr);
+    history.callEnds(0);
+  }
+  EXPECT_EQ(history.last(), "xpFdbMgr[0]::init -> 0");
+}
+
+/// What handles an abort now.
+void (*handler())(int) {
+  struct sigaction now {};
+  sigaction(SIGABRT, nullptr, &now);
+  return now.sa_handler;
+}
+
+void ownHandler(int) {
+  LastWords::say("own\n");
+  _exit(5);
+}
+
+TEST(LastWordsTest, FormerHandlerIsBackAfterwards) {
+  auto* const before = handler();
+  {
+    Sim sim;
+    EXPECT_NE(handler(), before);
+    EXPECT_THROW(Sim(), std::logic_error);
+    EXPECT_NE(handler(), before);
+  }
+  EXPECT_EQ(handler(), before);
+}
+
+TEST(LastWordsTest, RefusedSimInstallsNone) {
+  auto* const before = handler();
+  Profile profile;
+  profile.sdkStatus["xpNoMgr::addDevice"] = {42};
+  EXPECT_THROW(Sim sim(profile), std::invalid_argument);
+  EXPECT_EQ(handler(), before);
+}
+
+TEST(LastWordsTest, HandlerThatCameLaterStays) {
+  auto* const before = handler();
+  {
+    Sim sim;
+    std::signal(SIGABRT, ownHandler);
+  }
+  EXPECT_EQ(handler(), ownHandler);
+  std::signal(SIGABRT, before);
+}
+
+TEST(LastWordsTest, FormerHandlerHasItsTurn) {
+  EXPECT_EXIT(
+      {
+        std::signal(SIGABRT, ownHandler);
+        Sim sim;
+        initEgress();
+        std::abort();
+      },
+      testing::ExitedWithCode(5),
+      "^simulated SDK: the last call:\nxpEgressAclMgr::init -> 0\nown\n$");
+}
+
+TEST(LastWordsTest, IgnoredSignalEndsTheProcessByAbortAllTheSame) {
+  expectEnd(
+      SIGABRT,
+      [] {
+        std::signal(SIGABRT, SIG_IGN);
+        Sim sim;
+        initEgress();
+        fail();
+      },
+      "it failed\nsimulated SDK: the last call:\nxpEgressAclMgr::init -> 0\n");
+}
+
+}  // namespace
+}  // namespace xdksim
