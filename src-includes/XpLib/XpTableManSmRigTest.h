@@ -158,9 +158,20 @@ inline std::string apiError(std::string const& call, S32 status, std::string con
          '\n' + assertion("!(true)", signature);
 }
 
-/// Takes the SDK's history of calls off the end of `text`: a heading that tells their number, and
-/// as many lines of the call log.  `text` stays as it is where they don't agree.
+/// Takes the SDK's lines on its faults off the end of `text`.
+inline void cutFaults(std::string& text) {
+  auto const lastLine = [&text] {
+    std::size_t const end = text.size() < 2 ? text.npos : text.rfind('\n', text.size() - 2);
+    return end == text.npos ? 0 : end + 1;
+  };
+  while (text.compare(lastLine(), 22, "simulated SDK: fault \"") == 0) text.erase(lastLine());
+}
+
+/// Takes the SDK's history of calls off the end of `text`: a heading that tells their number, as
+/// many lines of the call log, and what became of faults.  Calls stay where heading and number
+/// don't agree.
 inline void cutHistory(std::string& text) {
+  cutFaults(text);
   std::string const heading = "simulated SDK: the last ";
   std::size_t const at = text.find(heading);
   if (at == text.npos || (at > 0 && text[at - 1] != '\n')) return;

@@ -31,12 +31,14 @@ struct Sim::State {
   xpPrimitiveMgr* object(ManagerId id);
   ManagerId identityOf(xpPrimitiveMgr const& manager, Call call) const;
   xpTableProfile const* tablesOf(U32 deviceId) const;
+  XP_STATUS answer(ManagerId id, Call call);
 
   std::map<U32, std::unique_ptr<SimDevice>> devices;
   std::map<std::pair<Manager const*, U32>, std::unique_ptr<xpPrimitiveMgr>> objects;
   std::unordered_map<xpPrimitiveMgr const*, ManagerId> identities;
   U32 lastPlMgrId = 0;
   StatusRules rules;
+  FaultRules faults;
   BringUpWatch watch;
   CallLog log;
   History history;
@@ -100,11 +102,18 @@ xpTableProfile const* Sim::State::tablesOf(U32 deviceId) const {
   return device == devices.end() ? nullptr : &device->second->tableProfile();
 }
 
+XP_STATUS Sim::State::answer(ManagerId id, Call call) {
+  auto const fault = faults.atCall(id, call);
+  XP_STATUS status = fault ? *fault : rules.next(id, call);
+  faults.answered(id, call);
+  return status;
+}
+
 Sim::Sim(Profile profile) : profile_(std::move(profile)) {
   if (live) throw std::logic_error("a simulated SDK lives already");
   reset();
   live = this;
-  lastWords_ = std::make_unique<LastWords>(tellHistory);
+  lastWords_ = std::make_unique<LastWords>(tellLast);
 }
 
 Sim::~Sim() {
@@ -113,8 +122,10 @@ Sim::~Sim() {
 }
 
 // In a signal handler: no state while a reset is between two.
-void Sim::tellHistory() {
-  if (live && live->state_) live->state_->history.tell();
+void Sim::tellLast() {
+  if (!live || !live->state_) return;
+  live->state_->history.tell();
+  live->state_->faults.tell();
 }
 
 Sim& Sim::current() {
@@ -149,6 +160,20 @@ void Sim::managerNullIs(std::string_view manager, bool isNull) {
   state_->rules.managerNullIs(managerKey(manager), isNull);
 }
 
+void Sim::newFault(std::string_view rule) { state_->faults.add(faultRule(rule)); }
+
+std::vector<FaultCount> Sim::faults() const { return state_->faults.counts(); }
+
+std::string Sim::faultReport() const { return state_->faults.report(); }
+
+std::vector<std::string> Sim::unfiredFaults() const {
+  std::vector<std::string> unfired;
+  for (FaultCount const& fault : faults()) {
+    if (fault.fired == 0) unfired.push_back(fault.rule);
+  }
+  return unfired;
+}
+
 void Sim::idsDelAll(std::string_view manager) {
   auto* ids = managerKey(manager).manager->declared.ids;
   if (ids) ids->clear();
@@ -160,7 +185,7 @@ XP_STATUS Sim::call(xpPrimitiveMgr const& manager, Call call, CallArguments cons
   ManagerId id = state_->identityOf(manager, call);
   BringUpWatch::Inside inside(state_->watch, id, call);
   state_->history.callBegins(id, call, arguments, state_->tablesOf(arguments.device));
-  XP_STATUS status = state_->rules.next(id, call);
+  XP_STATUS status = state_->answer(id, call);
   state_->history.callEnds(status);
   if (state_->log) state_->log(state_->history.last());
   return status;
@@ -175,7 +200,8 @@ xpPrimitiveMgr* Sim::manager(Reach layer, U32 plMgrId) {
     auto place = std::ranges::find(ids, plMgrId);
     if (place == ids.end()) continue;
     ManagerId id{&row, static_cast<U32>(place - ids.begin())};
-    return state_->rules.isNull(id) ? nullptr : state_->object(id);
+    bool isNull = state_->faults.isNullAtLookUp(id) || state_->rules.isNull(id);
+    return isNull ? nullptr : state_->object(id);
   }
   return nullptr;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "standin/xdk/CallLog.h"
+#include "standin/xdk/FaultRules.h"
 #include "standin/xdk/Profile.h"
 
 #include <memory>
@@ -18,7 +19,8 @@ class LastWords;
 /// One simulated SDK, which is there while this object lives; the SDK's own declarations work on
 /// it. A process may have many, one after another.  Without one, every operation of the SDK ends
 /// the process with a line that says so.  What it does depends on profile and calls alone.  When
-/// the process aborts, its last 256 calls are written to standard error.
+/// the process aborts, its last 256 calls are written to standard error, and what became of its
+/// faults.
 class Sim {
  public:
   /// Knows the device of `profile`, and has an id in the `myId` of each manager class for every
@@ -33,8 +35,8 @@ class Sim {
   /// The one that lives; ends the process when there is none.
   static Sim& current();
 
-  /// Everything as after construction: devices, contexts, ids, statuses, counts; no call log, no
-  /// history of calls.
+  /// Everything as after construction: devices, contexts, ids, statuses, counts; no faults, no call
+  /// log, no history of calls.
   /// Pointers that the SDK handed out before are void.
   void reset();
 
@@ -54,6 +56,16 @@ class Sim {
   void statusIs(std::string_view operation, std::vector<S32> statuses);
   /// Whether platform layers answer null for "Class" or "Class[n]".  Throws likewise.
   void managerNullIs(std::string_view manager, bool isNull);
+  /// Adds a fault, behind those that are there: "xpFdbMgr[0]::addDevice 5 at 2" (see FaultRule.h).
+  /// One that fires goes before the statuses and null managers above, and the call doesn't count
+  /// for them; of several that fire the first wins.  Throws likewise.
+  void newFault(std::string_view rule);
+  /// What became of each, in the order in which they were added.
+  std::vector<FaultCount> faults() const;
+  /// The same as lines for a user, each with its line end; an abort writes them behind the calls.
+  std::string faultReport() const;
+  /// The rules that never fired.
+  std::vector<std::string> unfiredFaults() const;
   /// Empties the class's `myId`, as before the SDK has filled it.  Throws likewise.
   void idsDelAll(std::string_view manager);
   /// Where lines of the call log go; an empty function for nowhere.
@@ -70,7 +82,7 @@ class Sim {
   friend class BringUp;
   struct State;
 
-  static void tellHistory();
+  static void tellLast();
 
   Profile profile_;
   std::unique_ptr<State> state_;

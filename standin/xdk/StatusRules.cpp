@@ -37,11 +37,15 @@ RuleKey classKey(std::string_view text) {
   return key;
 }
 
+}  // namespace
+
 bool covers(RuleKey const& key, ManagerId manager) {
   return key.manager == manager.row && (!key.index || *key.index == manager.index);
 }
 
-}  // namespace
+bool covers(RuleKey const& key, ManagerId manager, Call call) {
+  return covers(key, manager) && key.operation == operationOf(call).name;
+}
 
 RuleKey operationKey(std::string_view text) {
   auto colons = text.find("::");

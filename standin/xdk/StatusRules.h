@@ -27,6 +27,11 @@ RuleKey operationKey(std::string_view key);
 /// Reads "Class" or "Class[n]"; likewise, and refuses singletons, which no look-up can miss.
 RuleKey managerKey(std::string_view key);
 
+/// Whether the key is of that manager, or of all of its class.
+bool covers(RuleKey const& key, ManagerId manager);
+/// Whether it is also of that operation.
+bool covers(RuleKey const& key, ManagerId manager, Call call);
+
 /// Status 0 and no null manager until told otherwise.
 class StatusRules {
  public:
