@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <iomanip>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -38,7 +39,7 @@ inline std::string content(File const& file) {
 inline std::vector<std::string> words(std::string const& text) {
   std::istringstream in(text);
   std::vector<std::string> result;
-  for (std::string word; in >> word;) result.push_back(word);
+  for (std::string word; in >> std::quoted(word);) result.push_back(word);
   return result;
 }
 
@@ -56,8 +57,9 @@ inline std::vector<std::string> words(std::string const& text) {
   _exit(127);
 }
 
-/// Runs "kestrel <arguments>", which are separated by blanks, with `folder` as working folder.
-/// Standard output goes to `device` where one is given, and isn't seen then.
+/// Runs "kestrel <arguments>", which are separated by blanks and may stand in double quotes, with
+/// `folder` as working folder. Standard output goes to `device` where one is given, and isn't seen
+/// then.
 inline Outcome kestrel(std::string const& arguments, std::string const& folder = ".",
                        char const* device = nullptr) {
   File const out = scratchFile();

@@ -6,6 +6,8 @@
 #include "XpSystem/ChipStatus.h"
 #include "tools/kestrel/UsageFault.h"
 
+#include <iostream>
+
 namespace kestrel {
 
 namespace {
@@ -32,13 +34,17 @@ XpLib::Config::LpmTreadCfg::Ptr treadsOf(xdksim::LpmTreadCfg const& plan) {
 
 }  // namespace
 
-Chip::Chip(xdksim::Profile const& profile, std::string const& origin)
+Chip::Chip(xdksim::Profile const& profile, std::string const& origin, SdkRequest const& request)
     : sdk_(profile),
       status_(Kestrel::chipStatusFactory("chip")),
       deviceId_(deviceIdOf(profile, origin)),
       ldePipeMode_(static_cast<XpXdk::XpDeviceLdePipeMode>(profile.ldePipeMode)),
       coldStartNeeded_(profile.coldStartNeeded),
-      treads_(treadsOf(profile.lpmTreadCfg)) {}
+      treads_(treadsOf(profile.lpmTreadCfg)) {
+  for (std::string const& fault : request.faults) sdk_.newFault(fault);
+}
+
+Chip::~Chip() { std::cerr << sdk_.faultReport(); }
 
 void Chip::bringUp() {
   tables_ = Kestrel::tableManSmFactory(deviceId_, status_, ldePipeMode_, coldStartNeeded_, treads_);

@@ -6,17 +6,22 @@
 #include "XpLib/XpTableCliHelper.h"
 #include "XpLib/XpTableManSm.h"
 #include "standin/xdk/Sim.h"
+#include "tools/kestrel/SdkRequest.h"
 
 #include <string>
 
 namespace kestrel {
 
-/// One chip of one process.  While it lives, it is the simulated SDK of that process.
+/// One chip of one process.  While it lives, it is the simulated SDK of that process; at its end it
+/// tells on standard error what became of each fault that was asked for.
 class Chip {
  public:
   /// A chip that nobody has brought up yet.  `origin` is how complaints name the profile.  Throws
   /// `UsageFault` for a profile that the model can't take.
-  Chip(xdksim::Profile const& profile, std::string const& origin);
+  Chip(xdksim::Profile const& profile, std::string const& origin, SdkRequest const& request = {});
+  ~Chip();
+  Chip(Chip const&) = delete;
+  Chip& operator=(Chip const&) = delete;
 
   xdksim::Sim& sdk() { return sdk_; }
   /// Where the bring-up publishes the tables.

@@ -1,6 +1,7 @@
 // The grammar of the command line, and what each command leads to.
 #include "tools/kestrel/CommandLine.h"
 
+#include "standin/xdk/FaultRule.h"
 #include "standin/xdk/Json.h"
 #include "tools/kestrel/Commands.h"
 #include "tools/kestrel/Output.h"
@@ -67,9 +68,32 @@ void addInsight(CLI::App& command, Request& request) {
       ->type_name("FILE");
 }
 
+/// What is wrong with the rule, as the parser asks for it; empty for a good one.
+std::string complaintOf(std::string const& rule) {
+  try {
+    xdksim::faultRule(rule);
+  } catch (std::invalid_argument const& fault) {
+    return quoted(rule) + ": " + fault.what();
+  }
+  return "";
+}
+
+void addSdk(CLI::App& command, Request& request) {
+  command
+      .add_option(
+          "--fault", request.sdk.faults,
+          "Make the simulated SDK fail by a rule, KEY OUTCOME [at N | every N | after KEY], "
+          "such as \"xpFdbMgr::addDevice 5 at 2\"; an outcome is a status, null or kill; "
+          "may be given several times")
+      ->type_name("RULE")
+      ->allow_extra_args(false)
+      ->check(complaintOf, "");
+}
+
 /// The options of all commands that bring a chip of the user's up.
 void addChip(CLI::App& command, Request& request) {
   addProfile(command, request);
+  addSdk(command, request);
   addInsight(command, request);
 }
 
@@ -180,7 +204,10 @@ int run(int argc, char const* const* argv) {
 
   OutputBuffer output(STDOUT_FILENO);
   std::ostream out(&output);
+  // What stands on standard error comes behind the results that it is about.
+  auto* const tied = std::cerr.tie(&out);
   ExitStatus const status = perform(app, request, argc, argv, out);
+  std::cerr.tie(tied);
   out.flush();
   if (output.error() == 0) return status;
   complain(std::string("standard output can't be written: ") + std::strerror(output.error()));

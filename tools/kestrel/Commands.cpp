@@ -29,7 +29,7 @@ xdksim::Profile profileOf(Request const& request) {
 
 /// A chip of the asked profile, not yet up.
 Chip chipFor(Request const& request) {
-  return Chip(profileOf(request), request.profile.value_or("the built-in profile"));
+  return Chip(profileOf(request), request.profile.value_or("the built-in profile"), request.sdk);
 }
 
 bool wantsColour() {

@@ -3,6 +3,7 @@
 
 #include "Mox/Integers.h"
 #include "tools/kestrel/Insight.h"
+#include "tools/kestrel/SdkRequest.h"
 
 #include <iosfwd>
 #include <optional>
@@ -21,6 +22,7 @@ struct Request {
   Command command = nullptr;
   std::optional<std::string> profile;  ///< a file; none for the built-in profile
   std::optional<U32> tableId;          ///< none for all tables
+  SdkRequest sdk;
   InsightRequest insight;
   std::string traceFile;  ///< to be printed
   bool json = false;

@@ -1,0 +1,13 @@
+// What the user asks of the simulated SDK, beside its profile.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace kestrel {
+
+struct SdkRequest {
+  std::vector<std::string> faults;  ///< rules that can be read
+};
+
+}  // namespace kestrel
