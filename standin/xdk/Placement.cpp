@@ -1,0 +1,108 @@
+// The arithmetic of each class of contexts.
+#include "standin/xdk/Placement.h"
+
+#include "Xdk/LpmTableContext.h"
+#include "Xdk/TableContexts.h"
+
+#include <algorithm>
+#include <bit>
+#include <iterator>
+
+namespace xdksim {
+namespace {
+
+constexpr U32 blockRows = 1024;
+
+bool isSet(U32 bitmap, U32 bit) { return (bitmap >> bit & 1) != 0; }
+
+bool fitsRow(U32 width) { return width >= 1 && width <= sramRowWidth; }
+
+U32 blocksOf(U32 entries, U32 width) { return entries / (sramRowWidth / width) / blockRows; }
+
+std::vector<SramRun> runsOf(xpHashTableContext const& context) {
+  U32 const ways = context.numOfWays;
+  if (context.numOfEntries == 0 || ways == 0 || ways > std::size(context.poolId)) return {};
+  U32 const entries = context.numOfEntries / ways;
+  U32 const width = U32{context.keySize} + context.valueSize;
+  bool const isDouble = context.keySize == sramRowWidth && context.valueSize == sramRowWidth;
+  if (!isDouble && !fitsRow(width)) return {};
+  U32 const blocks = isDouble ? entries * 2 / blockRows : blocksOf(entries, width);
+  std::vector<SramRun> runs;
+  for (U32 way = 0; way < ways; ++way)
+    runs.push_back({way, context.poolId[way], context.rowBlkStartId[way], blocks});
+  return runs;
+}
+
+std::vector<SramRun> runsOf(xpDirectTableContext const& context) {
+  if (context.numOfEntries == 0 || !fitsRow(context.entryWidth)) return {};
+  return {{0, context.poolId, context.rowBlkStartId,
+           blocksOf(context.numOfEntries, context.entryWidth)}};
+}
+
+// Bits above the pools count as ways, though nothing lies there.
+std::vector<SramRun> runsOf(xpNhTableContext const& context) {
+  U32 const ways = static_cast<U32>(std::popcount(context.poolBitmap));
+  if (context.numEntries == 0 || ways == 0 || !fitsRow(context.entryWidth)) return {};
+  U32 const blocks = blocksOf(context.numEntries / ways, context.entryWidth);
+  std::vector<SramRun> runs;
+  for (U32 pool = 0; pool < sramPools; ++pool)
+    if (isSet(context.poolBitmap, pool))
+      runs.push_back({pool, pool, context.rowBlkStartId[pool], blocks});
+  return runs;
+}
+
+void addTiles(std::vector<SramRun>& runs, U32 pool, U32 tileBitmap) {
+  for (U32 tile = 0; tile < 8; ++tile)
+    if (isSet(tileBitmap, tile))
+      runs.push_back({pool, pool, tile * sramTileBlocks, sramTileBlocks});
+}
+
+std::vector<SramRun> runsOf(xpLpmTableContext const& context) {
+  std::vector<SramRun> runs;
+  for (U32 slot = 0; slot < std::size(context.prefixTable); ++slot) {
+    xpLpmPrefixTable const& table = context.prefixTable[slot];
+    if (table.valid != 0 && fitsRow(table.entryWidth))
+      runs.push_back({slot, table.poolId, table.rowBlkStartId,
+                      blocksOf(table.numOfEntries, table.entryWidth)});
+  }
+  for (U32 pool = 0; pool < sramPools; ++pool)
+    if (isSet(context.nhiTable.poolBitmap, pool))
+      addTiles(runs, pool, context.nhiTable.tileBitmap[pool]);
+  return runs;
+}
+
+/// The context as one of `Context`, or null.
+template <class Context>
+Context const* as(xpTableContext const& context) {
+  return dynamic_cast<Context const*>(&context);
+}
+
+}  // namespace
+
+U32 sramPoolBlocks(U32 pool) {
+  constexpr U32 tiles[sramPools] = {6, 6, 6, 6, 8, 8, 8, 8};
+  return pool < sramPools ? tiles[pool] * sramTileBlocks : 0;
+}
+
+std::vector<SramBlock> sramBlocks(SramRun const& run) {
+  std::vector<SramBlock> blocks;
+  U32 const limit = sramPoolBlocks(run.pool);
+  for (U32 block = run.start; block < limit && block - run.start < run.blocks; ++block)
+    blocks.push_back({run.pool, block});
+  return blocks;
+}
+
+std::vector<SramRun> sramRuns(xpTableContext const& context) {
+  if (auto const* hash = as<xpHashTableContext>(context)) return runsOf(*hash);
+  if (auto const* direct = as<xpDirectTableContext>(context)) return runsOf(*direct);
+  if (auto const* nh = as<xpNhTableContext>(context)) return runsOf(*nh);
+  if (auto const* lpm = as<xpLpmTableContext>(context)) return runsOf(*lpm);
+  return {};
+}
+
+bool declaresShared(xpTableContext const& context) {
+  auto const* hash = as<xpHashTableContext>(context);
+  return hash && hash->shared != 0;
+}
+
+}  // namespace xdksim
