@@ -86,11 +86,12 @@ class Publications : public ChipStatus::NotifieeConst {
   Lines& lines_;
 };
 
-/// One chip with its SDK.  `lines` are the calls of the SDK and what was published, in the order in
-/// which it happened.
+/// One chip with its SDK, which is strict.  `lines` are the calls of the SDK and what was
+/// published, in the order in which it happened.
 class Rig {
  public:
   explicit Rig(xdksim::Profile profile = fullProfile()) : sim(std::move(profile)) {
+    sim.strictIs(true);
     sim.callLogIs([this](std::string_view line) { lines.emplace_back(line); });
   }
 

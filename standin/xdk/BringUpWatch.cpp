@@ -27,11 +27,23 @@ void BringUpWatch::overlap(std::string const& other) const {
          (isUnderWayElsewhere() ? "another thread " : "the same thread ") + other);
 }
 
+void BringUpWatch::begin(U32 device, bool isAnnounced) {
+  bringUp_ = BringUp{std::this_thread::get_id(), ++lastNumber_, device, isAnnounced, {}};
+}
+
+U32 BringUpWatch::number() const {
+  std::lock_guard lock(mutex_);
+  bool isOwn = bringUp_ && bringUp_->thread == std::this_thread::get_id();
+  return isOwn ? bringUp_->number : 0;
+}
+
 void BringUpWatch::profileTaken(U32 device) {
   std::lock_guard lock(mutex_);
   if (isUnderWayElsewhere()) overlap("takes the profile of device " + std::to_string(device));
-  if (bringUp_ && bringUp_->isAnnounced) return;
-  bringUp_ = BringUp{std::this_thread::get_id(), device, false, {}};
+  if (bringUp_ && bringUp_->isAnnounced)
+    bringUp_->number = ++lastNumber_;
+  else
+    begin(device, false);
 }
 
 void BringUpWatch::callBegins(ManagerId manager, Call call) {
@@ -57,7 +69,7 @@ void BringUpWatch::announced(U32 device) {
   std::lock_guard lock(mutex_);
   bool isNested = bringUp_ && bringUp_->isAnnounced;
   if (isNested || isUnderWayElsewhere()) overlap("begins one of device " + std::to_string(device));
-  bringUp_ = BringUp{std::this_thread::get_id(), device, true, {}};
+  begin(device, true);
 }
 
 void BringUpWatch::announcedEnds() {

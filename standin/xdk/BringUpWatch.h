@@ -21,6 +21,8 @@ class BringUpWatch {
  public:
   /// A bring-up of this thread begins with its next call.
   void profileTaken(U32 device);
+  /// Number of the bring-up of this thread that is under way, from 1 on; 0 for none.
+  U32 number() const;
   /// Says for as long as it lives that a call is on.
   class Inside {
    public:
@@ -46,6 +48,7 @@ class BringUpWatch {
   };
   struct BringUp {
     std::thread::id thread;
+    U32 number = 0;
     U32 device = 0;
     bool isAnnounced = false;
     std::optional<CallId> last;
@@ -58,9 +61,11 @@ class BringUpWatch {
   void callBegins(ManagerId manager, Call call);
   void callEnds();
   bool isUnderWayElsewhere() const;
+  void begin(U32 device, bool isAnnounced);
   [[noreturn]] void overlap(std::string const& other) const;
 
-  std::mutex mutex_;
+  mutable std::mutex mutex_;
+  U32 lastNumber_ = 0;
   std::optional<BringUp> bringUp_;
   std::optional<Current> current_;
 };

@@ -8,6 +8,7 @@
 #include "standin/xdk/Misuse.h"
 #include "standin/xdk/SimDevice.h"
 #include "standin/xdk/StatusRules.h"
+#include "standin/xdk/Strict.h"
 
 #include <algorithm>
 #include <map>
@@ -30,7 +31,7 @@ struct Sim::State {
   void deviceIs(Profile profile);
   xpPrimitiveMgr* object(ManagerId id);
   ManagerId identityOf(xpPrimitiveMgr const& manager, Call call) const;
-  xpTableProfile const* tablesOf(U32 deviceId) const;
+  SimDevice* deviceOf(U32 deviceId) const;
   XP_STATUS answer(ManagerId id, Call call);
 
   std::map<U32, std::unique_ptr<SimDevice>> devices;
@@ -40,6 +41,7 @@ struct Sim::State {
   StatusRules rules;
   FaultRules faults;
   BringUpWatch watch;
+  Strict strict;
   CallLog log;
   History history;
 };
@@ -97,9 +99,9 @@ ManagerId Sim::State::identityOf(xpPrimitiveMgr const& manager, Call call) const
   return id;
 }
 
-xpTableProfile const* Sim::State::tablesOf(U32 deviceId) const {
+SimDevice* Sim::State::deviceOf(U32 deviceId) const {
   auto device = devices.find(deviceId);
-  return device == devices.end() ? nullptr : &device->second->tableProfile();
+  return device == devices.end() ? nullptr : device->second.get();
 }
 
 XP_STATUS Sim::State::answer(ManagerId id, Call call) {
@@ -179,13 +181,17 @@ void Sim::idsDelAll(std::string_view manager) {
   if (ids) ids->clear();
 }
 
+void Sim::strictIs(bool isStrict) { state_->strict.isOnIs(isStrict); }
+
 void Sim::callLogIs(CallLog log) { state_->log = std::move(log); }
 
 XP_STATUS Sim::call(xpPrimitiveMgr const& manager, Call call, CallArguments const& arguments) {
   ManagerId id = state_->identityOf(manager, call);
   BringUpWatch::Inside inside(state_->watch, id, call);
-  state_->history.callBegins(id, call, arguments, state_->tablesOf(arguments.device));
+  SimDevice* device = state_->deviceOf(arguments.device);
+  state_->history.callBegins(id, call, arguments, device ? &device->tableProfile() : nullptr);
   XP_STATUS status = state_->answer(id, call);
+  state_->strict.called({id, call, arguments, state_->watch.number(), device, status});
   state_->history.callEnds(status);
   if (state_->log) state_->log(state_->history.last());
   return status;

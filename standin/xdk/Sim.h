@@ -35,8 +35,8 @@ class Sim {
   /// The one that lives; ends the process when there is none.
   static Sim& current();
 
-  /// Everything as after construction: devices, contexts, ids, statuses, counts; no faults, no call
-  /// log, no history of calls.
+  /// Everything as after construction: devices, contexts, ids, statuses, counts; not strict, no
+  /// faults, no call log, no history of calls.
   /// Pointers that the SDK handed out before are void.
   void reset();
 
@@ -68,6 +68,8 @@ class Sim {
   std::vector<std::string> unfiredFaults() const;
   /// Empties the class's `myId`, as before the SDK has filled it.  Throws likewise.
   void idsDelAll(std::string_view manager);
+  /// Whether misuse that the SDK would let pass ends the process (see Strict.h); off at first.
+  void strictIs(bool isStrict);
   /// Where lines of the call log go; an empty function for nowhere.
   void callLogIs(CallLog log);
 

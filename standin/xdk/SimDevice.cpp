@@ -23,6 +23,14 @@ xpTableContext* padded(std::vector<Context>& contexts, U32 type, std::size_t roo
   return contexts.data();
 }
 
+xpTableContext const* elementOf(Contexts const& array, std::size_t index) {
+  return std::visit(
+      [index](auto const& contexts) -> xpTableContext const* {
+        return index < contexts.size() ? &contexts[index] : nullptr;
+      },
+      array);
+}
+
 }  // namespace
 
 SimDevice::SimDevice(Profile profile) : profile_(std::move(profile)) {
@@ -37,6 +45,17 @@ void SimDevice::layOut(U32 tableId, Table const& table, std::size_t room) {
   tableProfile_.copyNum[tableId] = table.copyNum;
   tableProfile_.tblCtx[tableId] = std::visit(
       [&table, room](auto& contexts) { return padded(contexts, table.type, room); }, array);
+}
+
+std::optional<U32> SimDevice::tableAt(xpTableContext const* first) const {
+  for (auto const& [id, array] : arrays_) {
+    if (first && elementOf(array, 0) == first) return id;
+  }
+  return {};
+}
+
+xpTableContext const* SimDevice::context(U32 tableId, U32 copy) const {
+  return elementOf(arrays_.at(tableId), copy);
 }
 
 }  // namespace xdksim

@@ -6,6 +6,7 @@
 #include "standin/xdk/Profile.h"
 
 #include <map>
+#include <optional>
 
 namespace xdksim {
 
@@ -18,6 +19,10 @@ class SimDevice : public xpDevice {
 
   Profile const& profile() const { return profile_; }
   xpTableProfile& tableProfile() { return tableProfile_; }
+  /// The table whose array of contexts begins there, or none.
+  std::optional<U32> tableAt(xpTableContext const* first) const;
+  /// The context of one copy; null behind the array's end.
+  xpTableContext const* context(U32 tableId, U32 copy) const;
   bool tableProfileNull() const { return tableProfileNull_; }
   void tableProfileNullIs(bool isNull) { tableProfileNull_ = isNull; }
 

@@ -70,7 +70,7 @@ TEST(EntryWatchTest, TableThatComesBackIsNew) {
 }
 
 TEST(PrintBringUpTest, SecondBringUpForgetsTheTablesFirst) {
-  Chip chip(xdksim::defaultProfile(), "test");
+  Chip chip(xdksim::defaultProfile(), "test", {.strict = true});
   std::ostringstream first;
   printBringUp(chip, first);
   std::ostringstream second;
@@ -84,7 +84,7 @@ TEST(PrintBringUpTest, SecondBringUpForgetsTheTablesFirst) {
 TEST(ChipTest, EndOfTheChipSaysNothing) {
   std::ostringstream out;
   {
-    Chip chip(xdksim::defaultProfile(), "test");
+    Chip chip(xdksim::defaultProfile(), "test", {.strict = true});
     printBringUp(chip, out);
   }
   EXPECT_EQ(out.str().find("gone"), std::string::npos);

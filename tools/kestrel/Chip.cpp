@@ -41,6 +41,7 @@ Chip::Chip(xdksim::Profile const& profile, std::string const& origin, SdkRequest
       ldePipeMode_(static_cast<XpXdk::XpDeviceLdePipeMode>(profile.ldePipeMode)),
       coldStartNeeded_(profile.coldStartNeeded),
       treads_(treadsOf(profile.lpmTreadCfg)) {
+  sdk_.strictIs(request.strict);
   for (std::string const& fault : request.faults) sdk_.newFault(fault);
 }
 

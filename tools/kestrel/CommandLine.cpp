@@ -88,6 +88,8 @@ void addSdk(CLI::App& command, Request& request) {
       ->type_name("RULE")
       ->allow_extra_args(false)
       ->check(complaintOf, "");
+  command.add_flag("--strict", request.sdk.strict,
+                   "End the process where the library misuses the simulated SDK");
 }
 
 /// The options of all commands that bring a chip of the user's up.

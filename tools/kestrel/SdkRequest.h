@@ -7,7 +7,8 @@
 namespace kestrel {
 
 struct SdkRequest {
-  std::vector<std::string> faults;  ///< rules that can be read
+  std::vector<std::string> faults{};  ///< rules that can be read
+  bool strict = false;                ///< whether misuse ends the process
 };
 
 }  // namespace kestrel
