@@ -1,8 +1,7 @@
 // The arithmetic of each class of contexts.
 #include "standin/xdk/Placement.h"
 
-#include "Xdk/LpmTableContext.h"
-#include "Xdk/TableContexts.h"
+#include "standin/xdk/ContextClass.h"
 
 #include <algorithm>
 #include <bit>
@@ -29,13 +28,13 @@ std::vector<SramRun> runsOf(xpHashTableContext const& context) {
   U32 const blocks = isDouble ? entries * 2 / blockRows : blocksOf(entries, width);
   std::vector<SramRun> runs;
   for (U32 way = 0; way < ways; ++way)
-    runs.push_back({way, context.poolId[way], context.rowBlkStartId[way], blocks});
+    runs.push_back({SramPart::way, way, context.poolId[way], context.rowBlkStartId[way], blocks});
   return runs;
 }
 
 std::vector<SramRun> runsOf(xpDirectTableContext const& context) {
   if (context.numOfEntries == 0 || !fitsRow(context.entryWidth)) return {};
-  return {{0, context.poolId, context.rowBlkStartId,
+  return {{SramPart::all, 0, context.poolId, context.rowBlkStartId,
            blocksOf(context.numOfEntries, context.entryWidth)}};
 }
 
@@ -47,14 +46,14 @@ std::vector<SramRun> runsOf(xpNhTableContext const& context) {
   std::vector<SramRun> runs;
   for (U32 pool = 0; pool < sramPools; ++pool)
     if (isSet(context.poolBitmap, pool))
-      runs.push_back({pool, pool, context.rowBlkStartId[pool], blocks});
+      runs.push_back({SramPart::poolWay, pool, pool, context.rowBlkStartId[pool], blocks});
   return runs;
 }
 
 void addTiles(std::vector<SramRun>& runs, U32 pool, U32 tileBitmap) {
   for (U32 tile = 0; tile < 8; ++tile)
     if (isSet(tileBitmap, tile))
-      runs.push_back({pool, pool, tile * sramTileBlocks, sramTileBlocks});
+      runs.push_back({SramPart::tile, tile, pool, tile * sramTileBlocks, sramTileBlocks});
 }
 
 std::vector<SramRun> runsOf(xpLpmTableContext const& context) {
@@ -62,7 +61,7 @@ std::vector<SramRun> runsOf(xpLpmTableContext const& context) {
   for (U32 slot = 0; slot < std::size(context.prefixTable); ++slot) {
     xpLpmPrefixTable const& table = context.prefixTable[slot];
     if (table.valid != 0 && fitsRow(table.entryWidth))
-      runs.push_back({slot, table.poolId, table.rowBlkStartId,
+      runs.push_back({SramPart::prefixTable, slot, table.poolId, table.rowBlkStartId,
                       blocksOf(table.numOfEntries, table.entryWidth)});
   }
   for (U32 pool = 0; pool < sramPools; ++pool)
@@ -71,11 +70,8 @@ std::vector<SramRun> runsOf(xpLpmTableContext const& context) {
   return runs;
 }
 
-/// The context as one of `Context`, or null.
-template <class Context>
-Context const* as(xpTableContext const& context) {
-  return dynamic_cast<Context const*>(&context);
-}
+// Nothing else lies in the SRAM.
+std::vector<SramRun> runsOf(xpTableContext const&) { return {}; }
 
 }  // namespace
 
@@ -93,15 +89,11 @@ std::vector<SramBlock> sramBlocks(SramRun const& run) {
 }
 
 std::vector<SramRun> sramRuns(xpTableContext const& context) {
-  if (auto const* hash = as<xpHashTableContext>(context)) return runsOf(*hash);
-  if (auto const* direct = as<xpDirectTableContext>(context)) return runsOf(*direct);
-  if (auto const* nh = as<xpNhTableContext>(context)) return runsOf(*nh);
-  if (auto const* lpm = as<xpLpmTableContext>(context)) return runsOf(*lpm);
-  return {};
+  return visitContext(context, [](auto const& record) { return runsOf(record); });
 }
 
 bool declaresShared(xpTableContext const& context) {
-  auto const* hash = as<xpHashTableContext>(context);
+  auto const* hash = dynamic_cast<xpHashTableContext const*>(&context);
   return hash && hash->shared != 0;
 }
 

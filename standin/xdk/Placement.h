@@ -19,10 +19,15 @@ constexpr U32 sramTileBlocks = 8;
 /// there is no such pool.
 U32 sramPoolBlocks(U32 pool);
 
-/// Row blocks of one pool that lie one behind the other: a way, a prefix table, a tile of a
-/// next-hop index.  Pool and start are what the context says, be it on the chip or not.
+/// What of a context lies in a run, and what numbers it: nothing, the way, the pool, the slot of
+/// the prefix table, the tile.
+enum class SramPart : U8 { all, way, poolWay, prefixTable, tile };
+
+/// Row blocks of one pool that lie one behind the other.  Pool and start are what the context says,
+/// be they on the chip or not.
 struct SramRun {
-  U32 part;  ///< which of its context: way, slot of the prefix table, pool of a tile; 0 where one
+  SramPart part;
+  U32 number;
   U32 pool;
   U32 start;
   U32 blocks;  ///< may be 0

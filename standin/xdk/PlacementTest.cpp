@@ -18,6 +18,10 @@ std::string shown(xpTableContext const& context) {
   return text;
 }
 
+std::vector<SramBlock> blocksOf(U32 pool, U32 start, U32 blocks) {
+  return sramBlocks({SramPart::all, 0, pool, start, blocks});
+}
+
 xpHashTableContext hash(U32 entries, U16 keySize, U16 valueSize, U8 ways) {
   xpHashTableContext context;
   context.numOfEntries = entries;
@@ -51,7 +55,6 @@ xpNhTableContext nextHop(U32 poolBitmap, U32 entries, U32 width) {
 
 TEST(PlacementTest, HashHasARunForEachWay) {
   EXPECT_EQ(shown(hash(8192, 64, 64, 2)), "4:0+2 5:8+2");
-  EXPECT_EQ(sramRuns(hash(8192, 64, 64, 2))[1].part, 1u);
 }
 
 TEST(PlacementTest, HashOfTwoRowsTakesTwiceTheEntries) {
@@ -69,6 +72,12 @@ TEST(PlacementTest, HashEntryFillsARowAtMostUnlessKeyAndValueFillOneEach) {
   EXPECT_EQ(shown(hash(2048, 128, 129, 1)), "");
   EXPECT_EQ(shown(hash(2048, 256, 255, 1)), "");
   EXPECT_EQ(shown(hash(2048, 0, 0, 1)), "");
+}
+
+TEST(PlacementTest, RunSaysWhatOfItsContextItIs) {
+  EXPECT_EQ(sramRuns(hash(8192, 64, 64, 2))[1], (SramRun{SramPart::way, 1, 5, 8, 2}));
+  EXPECT_EQ(sramRuns(direct(8192, 128))[0], (SramRun{SramPart::all, 0, 2, 5, 4}));
+  EXPECT_EQ(sramRuns(nextHop(0b10000, 16384, 64))[0], (SramRun{SramPart::poolWay, 4, 4, 14, 4}));
 }
 
 TEST(PlacementTest, DirectHasOneRun) {
@@ -91,7 +100,6 @@ TEST(PlacementTest, RemaindersAreDroppedAtEachStep) {
 
 TEST(PlacementTest, NextHopHasARunInEachPoolOfTheBitmap) {
   EXPECT_EQ(shown(nextHop(0b10010, 16384, 64)), "1:11+2 4:14+2");
-  EXPECT_EQ(sramRuns(nextHop(0b10010, 16384, 64))[1].part, 4u);
 }
 
 TEST(PlacementTest, NextHopCountsBitsAboveThePoolsAsWays) {
@@ -111,8 +119,8 @@ TEST(PlacementTest, LpmHasARunForEachValidSlotAndEachTile) {
   context.nhiTable.tileBitmap[1] = 0xFF;
   context.nhiTable.tileBitmap[2] = 0b100010;
   EXPECT_EQ(shown(context), "1:7+1 3:9+0 0:0+8 2:8+8 2:40+8");
-  EXPECT_EQ(sramRuns(context)[1].part, 5u);
-  EXPECT_EQ(sramRuns(context)[4].part, 2u);
+  EXPECT_EQ(sramRuns(context)[1], (SramRun{SramPart::prefixTable, 5, 3, 9, 0}));
+  EXPECT_EQ(sramRuns(context)[4], (SramRun{SramPart::tile, 5, 2, 40, 8}));
 }
 
 TEST(PlacementTest, EmptyContextsAndOtherMemoriesTakeNothing) {
@@ -126,22 +134,22 @@ TEST(PlacementTest, EmptyContextsAndOtherMemoriesTakeNothing) {
 }
 
 TEST(PlacementTest, EndOfARunIsCountedIn8Bits) {
-  EXPECT_EQ((SramRun{0, 4, 8, 4}.end()), 11);
-  EXPECT_EQ((SramRun{0, 4, 8, 0}.end()), 7);
-  EXPECT_EQ((SramRun{0, 4, 0, 0}.end()), 255);
-  EXPECT_EQ((SramRun{0, 4, 254, 4}.end()), 1);
+  EXPECT_EQ((SramRun{SramPart::all, 0, 4, 8, 4}.end()), 11);
+  EXPECT_EQ((SramRun{SramPart::all, 0, 4, 8, 0}.end()), 7);
+  EXPECT_EQ((SramRun{SramPart::all, 0, 4, 0, 0}.end()), 255);
+  EXPECT_EQ((SramRun{SramPart::all, 0, 4, 254, 4}.end()), 1);
 }
 
 TEST(PlacementTest, BlocksOfARun) {
-  EXPECT_EQ(sramBlocks({0, 4, 62, 2}), (std::vector<SramBlock>{{4, 62}, {4, 63}}));
-  EXPECT_TRUE(sramBlocks({0, 4, 0, 0}).empty());
+  EXPECT_EQ(blocksOf(4, 62, 2), (std::vector<SramBlock>{{4, 62}, {4, 63}}));
+  EXPECT_TRUE(blocksOf(4, 0, 0).empty());
 }
 
 TEST(PlacementTest, BlocksThatTheChipLacksAreNotTaken) {
-  EXPECT_EQ(sramBlocks({0, 3, 47, 4}), (std::vector<SramBlock>{{3, 47}}));
-  EXPECT_EQ(sramBlocks({0, 4, 60, 0xFFFFFFFF}).size(), 4u);
-  EXPECT_TRUE(sramBlocks({0, 8, 0, 4}).empty());
-  EXPECT_TRUE(sramBlocks({0, 4, 0xFFFFFFFF, 4}).empty());
+  EXPECT_EQ(blocksOf(3, 47, 4), (std::vector<SramBlock>{{3, 47}}));
+  EXPECT_EQ(blocksOf(4, 60, 0xFFFFFFFF).size(), 4u);
+  EXPECT_TRUE(blocksOf(8, 0, 4).empty());
+  EXPECT_TRUE(blocksOf(4, 0xFFFFFFFF, 4).empty());
 }
 
 TEST(PlacementTest, PoolsHave48Or64Blocks) {
