@@ -1,0 +1,119 @@
+// Writing beside, then moving into place.
+#include "tools/kestrel/OutputFiles.h"
+
+#include "tools/kestrel/Output.h"
+#include "tools/kestrel/UsageFault.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <list>
+#include <optional>
+#include <ostream>
+#include <set>
+#include <stdexcept>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace kestrel {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void refuse(std::string const& path, int error) {
+  throw std::runtime_error(path + ": cannot be written: " + std::strerror(error));
+}
+
+/// Writes to an open file and closes it.
+void writeAndClose(int descriptor, OutputFile const& file) {
+  OutputBuffer buffer(descriptor);
+  std::ostream(&buffer) << file.text << std::flush;
+  int const error = close(descriptor) == 0 ? buffer.error() : errno;
+  if (error != 0) refuse(file.path, error);
+}
+
+/// What stands at the path already, if anything.
+std::optional<struct stat> standing(std::string const& path) {
+  struct stat found;
+  if (stat(path.c_str(), &found) == 0) return found;
+  return std::nullopt;
+}
+
+mode_t freshMode() {
+  mode_t const mask = umask(0);
+  umask(mask);
+  return 0666 & ~mask;
+}
+
+/// Where the path leads, through links too.  One that leads nowhere stays, for the complaint.
+std::string placeOf(std::string const& path) {
+  std::error_code unknown;
+  fs::path const place = fs::weakly_canonical(fs::absolute(path, unknown), unknown);
+  return unknown ? path : place.string();
+}
+
+/// A file beside its place, which goes unless it is moved there.
+class Beside {
+ public:
+  explicit Beside(OutputFile const& file) : file_(file), place_(placeOf(file.path)) {}
+  ~Beside() {
+    if (!path_.empty()) unlink(path_.c_str());
+  }
+  Beside(Beside const&) = delete;
+  Beside& operator=(Beside const&) = delete;
+
+  void write(mode_t mode) {
+    std::string path = place_ + ".XXXXXX";
+    int const descriptor = mkstemp(path.data());
+    if (descriptor < 0) refuse(file_.path, errno);
+    path_ = path;
+    fchmod(descriptor, mode);
+    writeAndClose(descriptor, file_);
+  }
+  void move() {
+    if (std::rename(path_.c_str(), place_.c_str()) != 0) refuse(file_.path, errno);
+    path_.clear();
+  }
+
+ private:
+  OutputFile const& file_;  // outlives this
+  std::string place_;
+  std::string path_;  // empty while there is none
+};
+
+void writeDevice(OutputFile const& file) {
+  int const descriptor = open(file.path.c_str(), O_WRONLY | O_CLOEXEC);
+  if (descriptor < 0) refuse(file.path, errno);
+  writeAndClose(descriptor, file);
+}
+
+void checkDistinct(std::vector<OutputFile> const& files) {
+  std::set<std::string> places;
+  for (OutputFile const& file : files)
+    if (!places.insert(placeOf(file.path)).second)
+      throw UsageFault(file.path + ": is named for two files");
+}
+
+}  // namespace
+
+void writeFiles(std::vector<OutputFile> const& files) {
+  checkDistinct(files);
+  std::list<Beside> beside;
+  std::vector<OutputFile const*> devices;
+  for (OutputFile const& file : files) {
+    auto const found = standing(file.path);
+    if (found && S_ISDIR(found->st_mode)) refuse(file.path, EISDIR);
+    if (found && access(file.path.c_str(), W_OK) != 0) refuse(file.path, errno);
+    if (found && !S_ISREG(found->st_mode))
+      devices.push_back(&file);
+    else
+      beside.emplace_back(file).write(found ? found->st_mode & 0777 : freshMode());
+  }
+  for (OutputFile const* device : devices) writeDevice(*device);
+  for (Beside& file : beside) file.move();
+}
+
+}  // namespace kestrel

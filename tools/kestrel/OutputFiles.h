@@ -1,0 +1,20 @@
+// Files that appear whole or not at all.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace kestrel {
+
+struct OutputFile {
+  std::string path;
+  std::string text;
+};
+
+/// Writes all files, or none if one can't be: each is written beside its place and moved there when
+/// all are, so that what stood there before stays until then.  A device or a pipe is written to as
+/// it is, behind the others.  Throws `std::runtime_error` with "path: cannot be written: reason",
+/// and `UsageFault` if two of the paths lead to one file.
+void writeFiles(std::vector<OutputFile> const& files);
+
+}  // namespace kestrel
