@@ -31,7 +31,8 @@ class BadProfileTest : public testing::TestWithParam<Bad> {};
 TEST_P(BadProfileTest, GetsOneLineAndStatus2) {
   Folder const folder;
   folder.has("lab.json", GetParam().json);
-  for (char const* command : {"report summary", "report tables", "bringup"}) {
+  for (char const* command :
+       {"report summary", "report detail", "report sram", "report tables", "bringup"}) {
     Outcome const outcome = kestrel(std::string(command) + " --profile lab.json", folder.path());
     EXPECT_EQ(outcome.out, "") << command;
     EXPECT_PRED2(isComplaint, outcome.err, GetParam().complaint);

@@ -11,8 +11,9 @@ namespace tool {
 
 namespace {
 
-constexpr char const* chipCommands[] = {"demo", "report summary", "report summary --table 0",
-                                        "report tables", "bringup"};
+constexpr char const* chipCommands[] = {
+    "demo",          "report summary", "report summary --table 0", "report detail", "report sram",
+    "report tables", "bringup"};
 
 /// A profile on which the bring-up ends by assertion, at its third table.
 constexpr char const* fatal = R"({"ldePipeMode": 0, "sdkStatus": {"xpFdbMgr::addDevice": 5}})";

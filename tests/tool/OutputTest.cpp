@@ -17,12 +17,14 @@ TEST_P(FullDeviceTest, IsAnErrorInOneLine) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, FullDeviceTest,
-                         testing::Values("demo", "report summary", "report tables", "bringup",
-                                         "profile", "types", "types --json", "--help",
-                                         "--version"));
+                         testing::Values("demo", "report summary", "report detail", "report sram",
+                                         "report sram --json", "report tables", "bringup --down",
+                                         "lint --json", "profile", "types", "types --json",
+                                         "--help", "--version"));
 
 TEST(OutputTest, NothingGoesToStandardErrorWhenAllIsWell) {
-  for (char const* command : {"demo", "report summary", "bringup", "profile", "types --json"})
+  for (char const* command : {"demo", "report summary", "report detail --json", "report sram",
+                              "bringup --down", "lint", "profile", "types --json"})
     EXPECT_EQ(kestrel(command).err, "") << command;
 }
 

@@ -25,12 +25,30 @@ void EntryWatch::onTableContextEntry(U32 tableId) {
     log_(Mox::format("entry %u %s", tableId, entry->tableName().charPtr()).view());
 }
 
-void printBringUp(Chip& chip, std::ostream& out) {
+namespace {
+
+/// Writes what `run` makes of the chip.
+template <class Run>
+void printCalls(Chip& chip, std::ostream& out, Run const& run) {
   xdksim::CallLog const log = xdksim::streamLog(out);
   auto const watch = EntryWatch::start(chip.status(), log);
   chip.sdk().callLogIs(log);
-  chip.bringUp();
+  run(log);
   chip.sdk().callLogIs({});
+}
+
+}  // namespace
+
+void printBringUp(Chip& chip, std::ostream& out) {
+  printCalls(chip, out, [&chip](xdksim::CallLog const&) { chip.bringUp(); });
+}
+
+void printBringUpAndDown(Chip& chip, std::ostream& out) {
+  printCalls(chip, out, [&chip](xdksim::CallLog const& log) {
+    chip.bringUp();
+    log("down");
+    chip.takeDown();
+  });
 }
 
 }  // namespace kestrel

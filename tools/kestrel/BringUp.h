@@ -29,4 +29,7 @@ class EntryWatch : public Kestrel::ChipStatus::Notifiee {
 /// Brings the chip up and writes its call log to `out`, each line flushed as it comes.
 void printBringUp(Chip& chip, std::ostream& out);
 
+/// Does so, writes a line "down", takes the chip down and writes the log of that.
+void printBringUpAndDown(Chip& chip, std::ostream& out);
+
 }  // namespace kestrel

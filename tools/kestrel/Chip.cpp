@@ -51,6 +51,10 @@ void Chip::bringUp() {
   tables_ = Kestrel::tableManSmFactory(deviceId_, status_, ldePipeMode_, coldStartNeeded_, treads_);
 }
 
+void Chip::takeDown() {
+  if (tables_) tables_->doPrepareToDie();
+}
+
 Kestrel::TableCliHelper::Ptr Chip::reports() const {
   XpSystem::ChipStatus::Ptr const status = new XpSystem::ChipStatus("chip");
   Kestrel::tableContextFrom(*status, *status_);

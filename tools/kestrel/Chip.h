@@ -30,6 +30,9 @@ class Chip {
   /// Creates all tables.  The library ends the process where it can't.
   void bringUp();
 
+  /// Takes the managers down that a bring-up has taken up; does nothing ahead of one.
+  void takeDown();
+
   /// What reports on the tables as they stand now.
   Kestrel::TableCliHelper::Ptr reports() const;
 

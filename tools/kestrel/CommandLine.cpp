@@ -4,6 +4,7 @@
 #include "standin/xdk/FaultRule.h"
 #include "standin/xdk/Json.h"
 #include "tools/kestrel/Commands.h"
+#include "tools/kestrel/ExitStatus.h"
 #include "tools/kestrel/Output.h"
 #include "tools/kestrel/UsageFault.h"
 
@@ -24,9 +25,10 @@ constexpr char const* description =
     "what the library says of it.  Results go to standard output, complaints to standard error.";
 
 constexpr char const* footer =
-    "Exit status: 0 success, 1 failure, such as output that can't be written, 2 wrong usage or a\n"
-    "bad profile or trace file.  Where the library ends the process by assertion, the tool is\n"
-    "aborted.";
+    "Exit status: 0 success, 1 failure, such as output that can't be written, and findings of\n"
+    "lint, 2 wrong usage, a bad profile or trace file, or tables of which a report can't be "
+    "drawn.\n"
+    "Where the library ends the process by assertion, the tool is aborted.";
 
 std::string quoted(std::string const& text) { return '"' + text + '"'; }
 
@@ -106,20 +108,72 @@ void addTrace(CLI::App& app, Request& request) {
       ->type_name("");
 }
 
+void addTable(CLI::App& command, Request& request, char const* help) {
+  command
+      .add_option_function<std::string>(
+          "--table", [&request](std::string const& text) { request.tableId = tableIdOf(text); },
+          help)
+      ->type_name("ID");
+}
+
+CLI::Option* addJson(CLI::App& command, Request& request) {
+  return command.add_flag("--json", request.json, "As JSON");
+}
+
+void addPictures(CLI::App& command, Request& request, CLI::Option* json) {
+  command
+      .add_option("--svg", request.svg,
+                  "Draw the graph as a picture into this file, in place of the text")
+      ->type_name("FILE")
+      ->excludes(json);
+  command
+      .add_option("--html", request.html, "Draw it into a page, likewise; may stand beside --svg")
+      ->type_name("FILE")
+      ->excludes(json);
+}
+
 void addReports(CLI::App& app, Request& request) {
   CLI::App& report =
       *app.add_subcommand("report", "Bring a simulated chip up and report its tables");
   report.require_subcommand(1);
+
   CLI::App& summary = addCommand(report, "summary", "Rows that each table takes, by kind of memory",
                                  request, reportSummary);
-  summary
-      .add_option_function<std::string>(
-          "--table", [&request](std::string const& text) { request.tableId = tableIdOf(text); },
-          "The line of this table alone")
-      ->type_name("ID");
+  addTable(summary, request, "The line of this table alone");
+  addJson(summary, request);
   addChip(summary, request);
-  addChip(addCommand(report, "tables", "Id and name of each table", request, reportTables),
-          request);
+
+  CLI::App& detail = addCommand(report, "detail", "What each copy of each table holds and where",
+                                request, reportDetail);
+  addTable(detail, request, "This table alone");
+  addJson(detail, request);
+  addChip(detail, request);
+
+  CLI::App& sram = addCommand(report, "sram", "Which tables lie on which block of the SRAM",
+                              request, reportSram);
+  addPictures(sram, request, addJson(sram, request));
+  addChip(sram, request);
+
+  CLI::App& tables =
+      addCommand(report, "tables", "Id and name of each table", request, reportTables);
+  addJson(tables, request);
+  addChip(tables, request);
+}
+
+void addBringUp(CLI::App& app, Request& request) {
+  CLI::App& command = addCommand(app, "bringup", "Bring a chip up and print each call of the SDK",
+                                 request, bringUp);
+  command.add_flag("--down", request.down, "Take it down again, behind a line \"down\"");
+  addChip(command, request);
+}
+
+void addLint(CLI::App& app, Request& request) {
+  CLI::App& command = addCommand(
+      app, "lint",
+      "Name what is doubtful about a profile's tables, a line each; exit status 1 if anything is",
+      request, lint);
+  addProfile(command, request);
+  addJson(command, request);
 }
 
 void addCommands(CLI::App& app, Request& request) {
@@ -128,14 +182,13 @@ void addCommands(CLI::App& app, Request& request) {
       addCommand(app, "demo", "Bring the built-in chip up and tell what happens", request, demo),
       request);
   addReports(app, request);
-  addChip(addCommand(app, "bringup", "Bring a chip up and print each call of the SDK", request,
-                     bringUp),
-          request);
+  addBringUp(app, request);
+  addLint(app, request);
   addTrace(app, request);
   addCommand(app, "profile", "Print the built-in profile", request, profile);
-  addCommand(app, "types", "Print the types of the library's modules, by their descriptors",
-             request, types)
-      .add_flag("--json", request.json, "As JSON");
+  addJson(addCommand(app, "types", "Print the types of the library's modules, by their descriptors",
+                     request, types),
+          request);
 }
 
 /// The deepest command that the user has named; its help is the one to read.
@@ -181,7 +234,7 @@ ExitStatus perform(CLI::App& app, Request const& request, int argc, char const* 
                    std::ostream& out) {
   try {
     app.parse(argc, argv);
-    request.command(request, out);
+    return request.command(request, out);
   } catch (CLI::ParseError const& fault) {
     if (fault.get_exit_code() != 0) return refused(app, fault);
     app.exit(fault, out, std::cerr);  // help or version

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Mox/Integers.h"
+#include "tools/kestrel/ExitStatus.h"
 #include "tools/kestrel/Insight.h"
 #include "tools/kestrel/SdkRequest.h"
 
@@ -16,7 +17,7 @@ struct Request;
 
 /// Prints to the stream.  All that bring a chip up throw `UsageFault` for a bad profile or trace
 /// pattern.
-using Command = void (*)(Request const&, std::ostream&);
+using Command = ExitStatus (*)(Request const&, std::ostream&);
 
 struct Request {
   Command command = nullptr;
@@ -26,16 +27,26 @@ struct Request {
   InsightRequest insight;
   std::string traceFile;  ///< to be printed
   bool json = false;
+  bool down = false;               ///< take the chip down again
+  std::optional<std::string> svg;  ///< files of pictures
+  std::optional<std::string> html;
 };
 
-void demo(Request const& request, std::ostream& out);
-/// Throws `UsageFault` also for a table that the chip doesn't have.
-void reportSummary(Request const& request, std::ostream& out);
-void reportTables(Request const& request, std::ostream& out);
-void bringUp(Request const& request, std::ostream& out);
-void profile(Request const& request, std::ostream& out);
+ExitStatus demo(Request const& request, std::ostream& out);
+ExitStatus bringUp(Request const& request, std::ostream& out);
+/// Throws `UsageFault` for a profile that can't be read; answers `failure` if it finds something.
+ExitStatus lint(Request const& request, std::ostream& out);
+ExitStatus profile(Request const& request, std::ostream& out);
 /// Throws `UsageFault` for a trace file that can't be read or is damaged.
-void trace(Request const& request, std::ostream& out);
-void types(Request const& request, std::ostream& out);
+ExitStatus trace(Request const& request, std::ostream& out);
+ExitStatus types(Request const& request, std::ostream& out);
+
+// All throw `UsageFault` also for a table that the chip doesn't have, and for one on which the
+// report would never end or end otherwise than by the library's own assertion.
+ExitStatus reportSummary(Request const& request, std::ostream& out);
+ExitStatus reportDetail(Request const& request, std::ostream& out);
+/// Writes the pictures that are asked for, or else the text.
+ExitStatus reportSram(Request const& request, std::ostream& out);
+ExitStatus reportTables(Request const& request, std::ostream& out);
 
 }  // namespace kestrel

@@ -2,7 +2,6 @@
 #include "tools/kestrel/Demo.h"
 
 #include "tools/kestrel/BringUp.h"
-#include "tools/kestrel/Report.h"
 
 #include <ostream>
 #include <string>
@@ -65,7 +64,7 @@ void printDemo(xdksim::Profile const& profile, bool colour, std::ostream& out) {
   story.heading("Summary report");
   story.line("Rows that each table takes in the three kinds of memory:");
   story.line("");
-  printSummary(chip, out);
+  out << chip.reports()->displayAllDynamicTablesSummary();
   story.heading("Further");
   story.line("kestrel bringup          each call of the SDK");
   story.line("kestrel report --help    reports, also on a chip of your own (--profile)");

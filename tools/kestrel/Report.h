@@ -1,17 +1,13 @@
-// The commands that print the library's reports.
+// The listing of tables, which the library gives as a collection.
 #pragma once
 
-#include "tools/kestrel/Chip.h"
+#include "XpLib/XpTableCliHelper.h"
 
 #include <iosfwd>
 
 namespace kestrel {
 
-/// The summary of all tables.
-void printSummary(Chip const& chip, std::ostream& out);
-/// The summary's line of one table.  Throws `UsageFault` when the chip has no such table.
-void printTableSummary(Chip const& chip, U32 tableId, std::ostream& out);
 /// A line with id and name for each table.
-void printTables(Chip const& chip, std::ostream& out);
+void printTables(Kestrel::TableCliHelper& reports, std::ostream& out);
 
 }  // namespace kestrel

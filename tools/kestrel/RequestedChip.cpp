@@ -1,0 +1,22 @@
+// From a request to profile and chip.
+#include "tools/kestrel/RequestedChip.h"
+
+#include "standin/xdk/ProfileReader.h"
+#include "tools/kestrel/UsageFault.h"
+
+namespace kestrel {
+
+xdksim::Profile profileOf(Request const& request) {
+  if (!request.profile) return xdksim::defaultProfile();
+  try {
+    return xdksim::readProfileFile(*request.profile);
+  } catch (xdksim::ProfileFault const& fault) {
+    throw UsageFault(fault.what());
+  }
+}
+
+Chip chipFor(Request const& request) {
+  return Chip(profileOf(request), request.profile.value_or("the built-in profile"), request.sdk);
+}
+
+}  // namespace kestrel
