@@ -16,9 +16,10 @@ demo:
 	cmake --build --preset release --target kestrel
 	build/release/bin/kestrel demo
 
+# Takes options of cmake in CONFIGURE.
 test:
 	@cmake/install-packages.sh build
-	cmake --preset release
+	cmake --preset release $(CONFIGURE)
 	cmake --build --preset release
 	tools/check/run-tests release
 

@@ -105,11 +105,19 @@ if(KESTREL_STANDIN)
   file(GLOB topics CONFIGURE_DEPENDS LIST_DIRECTORIES true "${PROJECT_SOURCE_DIR}/tests/*")
   foreach(topic IN LISTS topics)
     cmake_path(GET topic FILENAME name)
-    if(IS_DIRECTORY "${topic}" AND NOT name MATCHES "^(golden|house|everyShape)$")
+    if(IS_DIRECTORY "${topic}" AND NOT name MATCHES "^(golden|house|everyShape|browser)$")
       kestrel_tests(${name}_tests FOLDERS tests/${name} LINK ${every_shape} KestrelTypes)
       list(APPEND users_of_the_tool ${name}_tests)
     endif()
   endforeach()
+
+  # How pictures look is a browser's to say.
+  include(Browser)
+  if(KESTREL_BROWSER)
+    kestrel_tests(browser_tests FOLDERS tests/browser)
+    target_compile_definitions(browser_tests PRIVATE "KESTREL_BROWSER=\"${KESTREL_BROWSER}\"")
+    list(APPEND users_of_the_tool browser_tests)
+  endif()
 
   # Tests run the tool and the examples as users do.
   foreach(name IN LISTS users_of_the_tool)
@@ -130,6 +138,6 @@ if(KESTREL_BITS EQUAL 64)
   endif()
 endif()
 
-if(KESTREL_ALL_TESTS)
+if(KESTREL_HOUSE_TESTS OR KESTREL_ALL_TESTS)
   kestrel_tests(house_tests FOLDERS tests/house)
 endif()

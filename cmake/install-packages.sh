@@ -8,6 +8,7 @@
 #   check   the formatter
 #   bench   Google Benchmark and the peers that the benches compare with
 #   tidy    the linter
+#   browser what the tool's pictures are tested in
 # Where all are installed it does nothing.  As root on Debian it installs what is missing; anybody
 # else gets the command to run, and exit 1.  On other systems it lists the needs and goes on.
 set -euo pipefail
@@ -19,6 +20,7 @@ declare -A packages=(
   [check]="clang-format-14"
   [bench]="libbenchmark-dev libboost-dev libsigc++-2.0-dev libabsl-dev"
   [tidy]="clang-tidy-14"
+  [browser]="chromium fonts-dejavu-core"
 )
 
 wanted=()
@@ -30,7 +32,7 @@ for group in "$@"; do
   read -ra names <<<"${packages[$group]}"
   wanted+=("${names[@]}")
 done
-[ ${#wanted[@]} -gt 0 ] || { sed -n '4,13s/^# \?//p' "$0"; exit 2; }
+[ ${#wanted[@]} -gt 0 ] || { sed -n '4,14s/^# \?//p' "$0"; exit 2; }
 
 if ! command -v dpkg-query >/dev/null; then
   echo "This is no Debian system.  Needed are what Debian calls: ${wanted[*]}" >&2
