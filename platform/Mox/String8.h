@@ -106,8 +106,13 @@ class StringN {
   /// Up to `length` bytes from `position`; a position before 0 counts from 0, one behind the end
   /// gives the empty string.
   StringN substr(long long position, U32 length) const;
-  /// One-at-a-time over the bytes; 0 for the empty string.
-  U32 hash() const noexcept;
+  /// One-at-a-time over the bytes; 0 for the empty string.  Linear in the bytes the first time that
+  /// a record is asked, constant from then on.
+  U32 hash() const noexcept {
+    if (!data_) return 0;
+    U32 const kept = __atomic_load_n(keptHash(data_), __ATOMIC_RELAXED);
+    return kept != 0 ? kept : hashAnew();
+  }
 
   IteratorConst begin() const { return IteratorConst(*this, 0); }
   IteratorConst end() const { return IteratorConst(*this, size()); }
@@ -120,10 +125,16 @@ class StringN {
   }
 
  private:
+  // The hash of a record's bytes, 0 until it is asked for; it stands ahead of the record.  Threads
+  // that share the record come to the same one.
+  static U32* keptHash(Data* data) noexcept { return reinterpret_cast<U32*>(data) - 1; }
+
+  U32 hashAnew() const noexcept;
   void append(std::string_view text);
   void drop() noexcept {
     if (data_ && data_->references.dec()) free(data_);
   }
+  static Data* withRoom(Data* data, U32 length);
   static void free(Data* data) noexcept;
 
   Data* data_ = nullptr;
@@ -140,8 +151,8 @@ extern template class StringN<unsigned char>;
 class OneAtATime {
  public:
   void add(U8 byte) noexcept {
-    hash_ += byte;
-    hash_ += hash_ << 10;
+    // The byte's part apart: it needn't wait for the bytes before.
+    hash_ = (hash_ << 10) + (hash_ + byte * 1025u);
     hash_ ^= hash_ >> 6;
   }
   U32 finish() const noexcept {

@@ -2,7 +2,6 @@
 #include "Mox/String8.h"
 
 #include "Mox/Exception.h"
-#include "standin/mox/StringHash.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -29,23 +28,27 @@ bool liesIn(std::string_view piece, std::string_view whole) noexcept {
   return !before(piece.data(), whole.data()) && before(piece.data(), whole.data() + whole.size());
 }
 
-// Room for `length` bytes and their zero, in a new record or, where one is given, in that record
-// grown.  The word of a new one counts the caller's reference.
-template <class Data>
-Data* withRoom(Data* data, U32 length) {
-  void* const room = std::realloc(static_cast<void*>(data), sizeof(Data) + length + 1);
-  if (!room) throw std::bad_alloc();
-  auto* const made = data ? static_cast<Data*>(room) : new (room) Data{ReferenceWord(1), 0};
-  made->length = length;
-  made->bytes()[length] = 0;
-  return made;
-}
-
 }  // namespace
 
 template <class Char>
 constinit typename StringN<Char>::NullData StringN<Char>::nullStringData_{
     {ReferenceWord(ReferenceWord::keptAlive), 0}, 0};
+
+// Room for `length` bytes and their zero, in a new record or, where one is given, in that record
+// grown.  The word of a new one counts the caller's reference.  The bytes are about to change, so
+// no hash is kept.
+template <class Char>
+typename StringN<Char>::Data* StringN<Char>::withRoom(Data* data, U32 length) {
+  std::size_t const size = sizeof(U32) + sizeof(Data) + length + 1;
+  void* const room = std::realloc(data ? keptHash(data) : nullptr, size);
+  if (!room) throw std::bad_alloc();
+  void* const record = static_cast<U32*>(room) + 1;
+  auto* const made = data ? static_cast<Data*>(record) : new (record) Data{ReferenceWord(1), 0};
+  *keptHash(made) = 0;
+  made->length = length;
+  made->bytes()[length] = 0;
+  return made;
+}
 
 template <class Char>
 StringN<Char>::StringN(char const* text) : StringN(orEmpty(text)) {}
@@ -78,7 +81,7 @@ template <class Char>
 void StringN<Char>::init(char const* bytes, U32, U32 length) {
   Data* made = nullptr;
   if (length > 0) {
-    made = withRoom<Data>(nullptr, checkedSize(length));
+    made = withRoom(nullptr, checkedSize(length));
     std::memcpy(made->bytes(), bytes, length);
   }
   drop();
@@ -87,7 +90,7 @@ void StringN<Char>::init(char const* bytes, U32, U32 length) {
 
 template <class Char>
 void StringN<Char>::free(Data* data) noexcept {
-  std::free(static_cast<void*>(data));
+  std::free(keptHash(data));
 }
 
 template <class Char>
@@ -139,8 +142,12 @@ StringN<Char> StringN<Char>::substr(long long position, U32 length) const {
 }
 
 template <class Char>
-U32 StringN<Char>::hash() const noexcept {
-  return stringHash(view());
+U32 StringN<Char>::hashAnew() const noexcept {
+  OneAtATime hash;
+  for (char const byte : view()) hash.add(static_cast<U8>(byte));
+  U32 const result = hash.finish();
+  __atomic_store_n(keptHash(data_), result, __ATOMIC_RELAXED);
+  return result;
 }
 
 template class StringN<unsigned char>;

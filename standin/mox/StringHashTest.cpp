@@ -1,4 +1,4 @@
-// The quick hash of strings against its definition, and equality of bytes read in words.
+// The hash of strings, which is kept, against its definition; equality of bytes read in words.
 #include "Mox/KeyOps.h"
 
 #include <gtest/gtest.h>
@@ -22,19 +22,49 @@ TEST(StringHashTest, EveryLengthAgreesWithTheDefinition) {
     EXPECT_EQ(String8(text).hash(), byDefinition(text)) << text;
 }
 
-TEST(StringHashTest, ManyHeadsAgreeWithTheDefinition) {
+TEST(StringHashTest, AnyBytesAgreeWithTheDefinition) {
   std::mt19937 random(3);
   for (int i = 0; i < 5000; ++i) {
     std::string text(random() % 24, '\0');
     for (char& byte : text) byte = static_cast<char>(random() % 3 ? random() : 0);
-    EXPECT_EQ(String8(text).hash(), byDefinition(text));
-    EXPECT_EQ(String8(text).hash(), byDefinition(text)) << "remembered";
+    String8 const string(text);
+    EXPECT_EQ(string.hash(), byDefinition(text));
+    EXPECT_EQ(string.hash(), byDefinition(text)) << "kept";
   }
 }
 
-TEST(StringHashTest, HeadOfZerosIsLikeAnyOther) {
-  std::string const zeros(9, '\0');
-  EXPECT_EQ(String8(zeros).hash(), byDefinition(zeros));
+TEST(StringHashTest, CopyHasIt) {
+  String8 const name("Ethernet1/1");
+  String8 const before(name);
+  EXPECT_EQ(name.hash(), byDefinition("Ethernet1/1"));
+  String8 const behind(name);
+  EXPECT_EQ(before.hash(), name.hash());
+  EXPECT_EQ(behind.hash(), name.hash());
+}
+
+TEST(StringHashTest, StringThatGrowsInPlaceForgetsIt) {
+  String8 name("Ethernet");
+  EXPECT_EQ(name.hash(), byDefinition("Ethernet"));
+  name += "1";
+  EXPECT_EQ(name.hash(), byDefinition("Ethernet1"));
+}
+
+TEST(StringHashTest, StringThatGrowsAwayFromItsCopyLeavesItThere) {
+  String8 name("Ethernet");
+  EXPECT_EQ(name.hash(), byDefinition("Ethernet"));
+  String8 const copy(name);
+  name += "1";
+  EXPECT_EQ(name.hash(), byDefinition("Ethernet1"));
+  EXPECT_EQ(copy.hash(), byDefinition("Ethernet"));
+}
+
+TEST(StringHashTest, AssignedStringHasThatOfItsNewBytes) {
+  String8 name("Ethernet1");
+  EXPECT_EQ(name.hash(), byDefinition("Ethernet1"));
+  name.init("Management1", 0, 11);
+  EXPECT_EQ(name.hash(), byDefinition("Management1"));
+  name = "Port";
+  EXPECT_EQ(name.hash(), byDefinition("Port"));
 }
 
 TEST(SameBytesTest, EveryByteCounts) {
