@@ -23,6 +23,8 @@ struct Request {
   Command command = nullptr;
   std::optional<std::string> profile;  ///< a file; none for the built-in profile
   std::optional<U32> tableId;          ///< none for all tables
+  std::optional<bool> cold;            ///< none: as the profile says
+  std::optional<U32> pipeMode;         ///< likewise
   SdkRequest sdk;
   InsightRequest insight;
   std::string traceFile;  ///< to be printed

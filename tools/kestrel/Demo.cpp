@@ -4,7 +4,7 @@
 #include "tools/kestrel/BringUp.h"
 
 #include <ostream>
-#include <string>
+#include <set>
 
 namespace kestrel {
 
@@ -17,7 +17,8 @@ class Story {
   void heading(char const* text) {
     out_ << '\n' << (colour_ ? "\033[1m" : "") << text << (colour_ ? "\033[0m" : "") << "\n\n";
   }
-  void line(Mox::String8 const& text) { out_ << text << '\n'; }
+  void text(Mox::String8 const& text) { out_ << text; }
+  void line(Mox::String8 const& line) { out_ << line << '\n'; }
 
  private:
   std::ostream& out_;  // outlives the story
@@ -53,6 +54,38 @@ void tellOfBringUp(Story& story, Chip& chip) {
                          chip.status()->tableContextEntryCount()));
 }
 
+void tellOfReports(Story& story, Kestrel::TableCliHelper& reports) {
+  story.heading("Summary report");
+  story.line("Rows that each table takes in the three kinds of memory:");
+  story.line("");
+  story.text(reports.displayAllDynamicTablesSummary());
+  story.heading("SRAM allocation graph");
+  story.line("A letter for each set of tables that lie on a block:");
+  story.line("");
+  story.text(reports.displaySramAllocationGraph());
+}
+
+// The first table of each type, in the order of the reports.
+void tellOfDetails(Story& story, Kestrel::TableCliHelper& reports) {
+  story.heading("Detail report");
+  story.line("What the copies of one table of each type hold:");
+  std::set<U8> types;
+  for (auto at = reports.chipStatus()->tableContextIteratorConst(); at; ++at) {
+    if (!types.insert(at.value()->tableType()).second) continue;
+    story.line("");
+    story.text(reports.displaySingleDynamicTableDetail(at.key()));
+  }
+}
+
+void tellOfMore(Story& story) {
+  story.heading("Further");
+  story.line("kestrel bringup                      each call of the SDK");
+  story.line(
+      "kestrel report --help                reports, also on a chip of your own (--profile)");
+  story.line("kestrel report sram --html sram.html the graph as a picture");
+  story.line("kestrel types                        every type of the library");
+}
+
 }  // namespace
 
 void printDemo(xdksim::Profile const& profile, bool colour, std::ostream& out) {
@@ -61,14 +94,10 @@ void printDemo(xdksim::Profile const& profile, bool colour, std::ostream& out) {
   out << std::flush;  // to be seen also where the bring-up ends the process
   Chip chip(profile, "the built-in profile");
   tellOfBringUp(story, chip);
-  story.heading("Summary report");
-  story.line("Rows that each table takes in the three kinds of memory:");
-  story.line("");
-  out << chip.reports()->displayAllDynamicTablesSummary();
-  story.heading("Further");
-  story.line("kestrel bringup          each call of the SDK");
-  story.line("kestrel report --help    reports, also on a chip of your own (--profile)");
-  story.line("kestrel types            every type of the library");
+  auto const reports = chip.reports();
+  tellOfReports(story, *reports);
+  tellOfDetails(story, *reports);
+  tellOfMore(story);
 }
 
 }  // namespace kestrel

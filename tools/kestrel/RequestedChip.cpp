@@ -16,7 +16,10 @@ xdksim::Profile profileOf(Request const& request) {
 }
 
 Chip chipFor(Request const& request) {
-  return Chip(profileOf(request), request.profile.value_or("the built-in profile"), request.sdk);
+  xdksim::Profile profile = profileOf(request);
+  profile.coldStartNeeded = request.cold.value_or(profile.coldStartNeeded);
+  profile.ldePipeMode = request.pipeMode.value_or(profile.ldePipeMode);
+  return Chip(profile, request.profile.value_or("the built-in profile"), request.sdk);
 }
 
 }  // namespace kestrel

@@ -9,7 +9,7 @@ namespace kestrel {
 /// The asked profile, or the built-in one.  Throws `UsageFault` for a bad one.
 xdksim::Profile profileOf(Request const& request);
 
-/// A chip of the asked profile, not yet up.  Throws likewise.
+/// A chip of the asked profile, started as asked, not yet up.  Throws likewise.
 Chip chipFor(Request const& request);
 
 }  // namespace kestrel
