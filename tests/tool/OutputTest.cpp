@@ -13,7 +13,7 @@ TEST_P(FullDeviceTest, IsAnErrorInOneLine) {
   Outcome const outcome = kestrel(GetParam(), ".", "/dev/full");
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.err,
-            "kestrel: error: standard output can't be written: No space left on device\n");
+            "kestrel: error: standard output cannot be written: No space left on device\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, FullDeviceTest,

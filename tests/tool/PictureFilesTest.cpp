@@ -50,10 +50,24 @@ TEST_F(PictureFilesTest, FormerFileIsReplaced) {
   EXPECT_TRUE(file("sram.svg").ends_with("</svg>\n"));
 }
 
-TEST_F(PictureFilesTest, StandardOutputIsAFileToo) {
-  Outcome const outcome = in("report sram --svg /dev/stdout");
+// A link of the folder's own: one that was replaced would be a loss to the machine.
+TEST_F(PictureFilesTest, StandardOutputIsAFileTooAndItsLinkStays) {
+  std::filesystem::path const link = folder_.path() + "/out";
+  std::filesystem::create_symlink("/proc/self/fd/1", link);
+  Outcome const outcome = in("report sram --svg out");
+  EXPECT_TRUE(outcome.out.starts_with("<svg")) << outcome.out;
   EXPECT_TRUE(outcome.err.empty()) << outcome.err;
   EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(std::filesystem::is_symlink(link));
+}
+
+TEST_F(PictureFilesTest, FileBehindALinkIsReplacedAndTheLinkStays) {
+  folder_.has("old.svg", "before");
+  std::filesystem::path const link = folder_.path() + "/link.svg";
+  std::filesystem::create_symlink("old.svg", link);
+  EXPECT_EQ(in("report sram --svg link.svg").status, 0);
+  EXPECT_TRUE(file("old.svg").starts_with("<svg"));
+  EXPECT_TRUE(std::filesystem::is_symlink(link));
 }
 
 TEST_F(PictureFilesTest, NoneIsLeftWhereOneCannotBeWritten) {
@@ -65,15 +79,11 @@ TEST_F(PictureFilesTest, NoneIsLeftWhereOneCannotBeWritten) {
 }
 
 TEST_F(PictureFilesTest, NoneIsLeftByARefusedReport) {
-  folder_.has("endless.json",
-              R"({"ldePipeMode": 0, "tables": {
-                   "19": {"copyNum": 1, "type": "DIRECT", "contexts": [{"first": -1}]},
-                   "50": {"type": "LPM", "contexts": [{"first": -1}]},
-                   "51": {"type": "LPM", "contexts": [{"first": -1}]},
-                   "52": {"copyNum": 1, "type": "NH", "contexts": [
-                     {"poolBitmap": 1, "numEntries": 512, "entryWidth": 64}]}}})");
-  EXPECT_EQ(in("report sram --svg new.svg --profile endless.json").status, 2);
-  EXPECT_EQ(files(), Names{"endless.json"});
+  EXPECT_EQ(in("report sram --svg new.svg --profile " KESTREL_SOURCE_DIR
+               "/tests/tool/profiles/endless.json")
+                .status,
+            2);
+  EXPECT_EQ(files(), Names());
 }
 
 TEST_F(PictureFilesTest, NoneIsLeftByARunThatEndsByAssertion) {

@@ -100,7 +100,7 @@ int run(int argc, char const* const* argv) {
   std::cerr.tie(tied);
   out.flush();
   if (output.error() == 0) return status;
-  complain(std::string("standard output can't be written: ") + std::strerror(output.error()));
+  complain(std::string("standard output cannot be written: ") + std::strerror(output.error()));
   return failure;
 }
 

@@ -48,7 +48,7 @@ mode_t freshMode() {
   return 0666 & ~mask;
 }
 
-/// Where the path leads, through links too.  One that leads nowhere stays, for the complaint.
+/// Where the path leads, through links too.  One that leads to no place stays as it is.
 std::string placeOf(std::string const& path) {
   std::error_code unknown;
   fs::path const place = fs::weakly_canonical(fs::absolute(path, unknown), unknown);
@@ -84,6 +84,7 @@ class Beside {
   std::string path_;  // empty while there is none
 };
 
+/// For what has no place to be moved to: a device, a pipe, a file that has lost its name.
 void writeDevice(OutputFile const& file) {
   int const descriptor = open(file.path.c_str(), O_WRONLY | O_CLOEXEC);
   if (descriptor < 0) refuse(file.path, errno);
@@ -94,7 +95,7 @@ void checkDistinct(std::vector<OutputFile> const& files) {
   std::set<std::string> places;
   for (OutputFile const& file : files)
     if (!places.insert(placeOf(file.path)).second)
-      throw UsageFault(file.path + ": is named for two files");
+      throw UsageFault(file.path + ": both pictures would be written here");
 }
 
 }  // namespace
@@ -107,7 +108,8 @@ void writeFiles(std::vector<OutputFile> const& files) {
     auto const found = standing(file.path);
     if (found && S_ISDIR(found->st_mode)) refuse(file.path, EISDIR);
     if (found && access(file.path.c_str(), W_OK) != 0) refuse(file.path, errno);
-    if (found && !S_ISREG(found->st_mode))
+    bool const isPlaced = found && S_ISREG(found->st_mode) && found->st_nlink > 0;
+    if (found && !isPlaced)
       devices.push_back(&file);
     else
       beside.emplace_back(file).write(found ? found->st_mode & 0777 : freshMode());
