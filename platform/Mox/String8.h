@@ -125,8 +125,8 @@ class StringN {
   }
 
  private:
-  // The hash of a record's bytes, 0 until it is asked for; it stands ahead of the record.  Threads
-  // that share the record come to the same one.
+  // The hash of a record's bytes, 0 until it is asked for.  It stands ahead of every record that
+  // was made, and so not of `nullStringData_`.  Threads that share a record come to the same one.
   static U32* keptHash(Data* data) noexcept { return reinterpret_cast<U32*>(data) - 1; }
 
   U32 hashAnew() const noexcept;

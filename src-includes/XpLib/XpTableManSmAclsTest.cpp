@@ -1,6 +1,6 @@
 // The tables of access control: which tables of a group go to the manager, and with how many
 // copies.
-#include "XpLib/XpTableManSmRigTest.h"
+#include "XpLib/XpTableManSmAbortTest.h"
 
 namespace Kestrel::xpTableManSm {
 namespace {

@@ -1,5 +1,4 @@
 // The bridging, multicast, port-VLAN and next-hop tables.
-#include "XpLib/XpTableManSmInitType.h"
 #include "XpLib/XpTableManSmSingleTable.h"
 #include "XpLib/XpTableManSmTrace.h"
 
@@ -50,17 +49,6 @@ void TableManSm::doCreateMdtTable() {
                                   "void Kestrel::TableManSm::doCreateMdtTable()");
   traceEntry(here, deviceId().value());
   createTable(*this, mdt, here);
-}
-
-// A manager that has no table in the profile.
-void TableManSm::doCreateControlMacTable() {
-  static constinit Operation here("doCreateControlMacTable",
-                                  "void Kestrel::TableManSm::doCreateControlMacTable()");
-  traceEntry(here, deviceId().value());
-  auto* const controlMacMgr = managerOf<xpIfPl, xpControlMacMgr>();
-  moxAssert(controlMacMgr, "controlMacMgr", here);
-  check(controlMacMgr->addDevice(deviceId().value(), xdkInitType(this)),
-        "((controlMacMgr->addDevice( devId, xdkInitType( this ) )))", here);
 }
 
 // No device is without a next-hop table.  The trace is one for development: its own level, no

@@ -1,6 +1,6 @@
 // The bridging, multicast, port-VLAN and next-hop tables: copies, absent tables, ids of managers.
+#include "XpLib/XpTableManSmAbortTest.h"
 #include "XpLib/XpTableManSmManagers.h"
-#include "XpLib/XpTableManSmRigTest.h"
 
 namespace Kestrel::xpTableManSm {
 namespace {

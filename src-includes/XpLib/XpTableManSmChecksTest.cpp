@@ -1,5 +1,5 @@
 // What ends the process: each checked call and each manager that is asked for, text by text.
-#include "XpLib/XpTableManSmRigTest.h"
+#include "XpLib/XpTableManSmAbortTest.h"
 
 #include <algorithm>
 #include <set>

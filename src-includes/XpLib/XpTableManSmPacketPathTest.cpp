@@ -1,6 +1,6 @@
 // The tables of the packet path: what goes into each list, with how many copies, and in what order
 // it is published.
-#include "XpLib/XpTableManSmRigTest.h"
+#include "XpLib/XpTableManSmAbortTest.h"
 
 namespace Kestrel::xpTableManSm {
 namespace {

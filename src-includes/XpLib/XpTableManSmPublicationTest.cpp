@@ -1,5 +1,5 @@
 // Publication: by value, by copies, under the name that came first.
-#include "XpLib/XpTableManSmRigTest.h"
+#include "XpLib/XpTableManSmAbortTest.h"
 
 namespace Kestrel::xpTableManSm {
 namespace {

@@ -1,5 +1,5 @@
 // The managers without tables: the order in which they come up and are taken down.
-#include "XpLib/XpTableManSmRigTest.h"
+#include "XpLib/XpTableManSmAbortTest.h"
 
 namespace Kestrel::xpTableManSm {
 namespace {

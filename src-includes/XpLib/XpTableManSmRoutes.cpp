@@ -1,5 +1,5 @@
-// The tables of routes and hosts.  In each pair both managers come first, and both publications
-// last.
+// The tables of routes and hosts.  Both tables of a pair go to their managers before either is
+// published.
 #include "XpLib/XpTableManSmSingleTable.h"
 #include "XpLib/XpTableManSmTrace.h"
 #include "XpLib/XpTableManSmTreads.h"

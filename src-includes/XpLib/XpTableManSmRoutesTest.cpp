@@ -1,4 +1,5 @@
 // The tables of routes and hosts, and the treads of the prefix tables.
+#include "XpLib/XpTableManSmAbortTest.h"
 #include "XpLib/XpTableManSmSaidTest.h"
 #include "XpLib/XpTableManSmTreads.h"
 

@@ -1,6 +1,6 @@
 // The order of the bring-up, again and after a broken one.
 #include "XpLib/XpTableManSm.h"
-#include "XpLib/XpTableManSmRigTest.h"
+#include "XpLib/XpTableManSmAbortTest.h"
 
 #include <stdexcept>
 

@@ -43,12 +43,41 @@ constexpr Plan v6Plan{&LpmTreadCfg::treadV6Valid,
                       "lpmTreadCfg->treadV6IteratorConst().isMemberOf( cfgIdx )",
                       "! \"lpmTreadCfg->treadV6IteratorConst().isMemberOf( cfgIdx )\""};
 
-void assertMember(Plan const& plan, LpmTreadCfg const& cfg, TreadIndex key, U32 cfgIdx,
-                  TreadIndex i, Operation const& in) {
-  if (plan.isMember(cfg, key)) return;
+void assertMember(Plan const& plan, LpmTreadCfg const& cfg, U32 cfgIdx, TreadIndex i,
+                  Operation const& in) {
+  if (plan.isMember(cfg, TreadIndex(static_cast<U8>(cfgIdx)))) return;
   std::cerr << Mox::format("Failed(%s)  cfgIdx %u i %u\n", plan.memberTest, cfgIdx, U32(i.value()))
             << std::flush;
   moxAssert(false, plan.assertion, in);
+}
+
+// Gives the prefix table of slot `i` the tread that the plan has for `cfgIdx`, the number of those
+// before it that took one.  True if it takes one too.
+bool rewriteTread(xpLpmPrefixTable& prefixTable, TreadIndex i, U32 cfgIdx, Plan const& plan,
+                  LpmTreadCfg const& cfg, Operation const& in) {
+  U32 const index = i.value();
+  U32 const former = prefixTable.tread;
+  bool const isValid = prefixTable.valid != 0;
+  traceText(2, in, [&](std::ostream& text) {
+    text << " index " << index << " tread " << former << " valid " << isValid;
+  });
+  if (!isValid || former == firstTread) return false;
+  traceText(2, in, [&](std::ostream& text) { text << " cfgIdx " << cfgIdx; });
+  assertMember(plan, cfg, cfgIdx, i, in);
+  U32 const tread = firstTread + (cfg.*plan.tread)(TreadIndex(static_cast<U8>(cfgIdx)));
+  traceText(1, in, [&](std::ostream& text) {
+    text << " index " << index << '/' << cfgIdx << " tread " << former << '/' << tread;
+  });
+  prefixTable.tread = tread;
+  return true;
+}
+
+// The plan of the table, where it is valid; null, and traced, where it isn't.
+Plan const* validPlan(U32 tableGuid, LpmTreadCfg const& cfg, Operation const& in) {
+  Plan const& plan = tableGuid == LPM_V4_TBL_GUID ? v4Plan : v6Plan;
+  if ((cfg.*plan.isValid)()) return &plan;
+  traceText(2, in, [](std::ostream& text) { text << " tread cfg not valid "; });
+  return nullptr;
 }
 
 }  // namespace
@@ -66,31 +95,12 @@ void doUpdateLpmTblCtx(U32 tableGuid, xpTableContext* tblCtx, Mox::Ptr<LpmTreadC
   moxAssert(lpmTblCtx, "lpmTblCtx", here);
   moxAssert(lpmTreadCfg != nullptr, "lpmTreadCfg", here);
 
-  Plan const& plan = tableGuid == LPM_V4_TBL_GUID ? v4Plan : v6Plan;
-  if (!((*lpmTreadCfg).*plan.isValid)()) {
-    traceText(2, here, [](std::ostream& text) { text << " tread cfg not valid "; });
-    return;
-  }
-
+  Plan const* const plan = validPlan(tableGuid, *lpmTreadCfg, here);
+  if (!plan) return;
   U32 cfgIdx = 0;
-  for (U8 at = TreadIndex::min; at < TreadIndex::invalid; ++at) {
-    TreadIndex const i(at);
-    xpLpmPrefixTable& prefixTable = lpmTblCtx->prefixTable[at];
-    traceText(2, here, [&](std::ostream& text) {
-      text << " index " << U32(at) << " tread " << prefixTable.tread << " valid "
-           << (prefixTable.valid != 0);
-    });
-    if (prefixTable.valid == 0 || prefixTable.tread == firstTread) continue;
-    traceText(2, here, [&](std::ostream& text) { text << " cfgIdx " << cfgIdx; });
-    TreadIndex const key(static_cast<U8>(cfgIdx));
-    assertMember(plan, *lpmTreadCfg, key, cfgIdx, i, here);
-    U32 const tread = firstTread + ((*lpmTreadCfg).*plan.tread)(key);
-    traceText(1, here, [&](std::ostream& text) {
-      text << " index " << U32(at) << '/' << cfgIdx << " tread " << prefixTable.tread << '/'
-           << tread;
-    });
-    ++cfgIdx;
-    prefixTable.tread = tread;
+  for (U8 i = TreadIndex::min; i < TreadIndex::invalid; ++i) {
+    if (rewriteTread(lpmTblCtx->prefixTable[i], TreadIndex(i), cfgIdx, *plan, *lpmTreadCfg, here))
+      ++cfgIdx;
   }
 }
 

@@ -39,6 +39,7 @@ constinit typename StringN<Char>::NullData StringN<Char>::nullStringData_{
 // no hash is kept.
 template <class Char>
 typename StringN<Char>::Data* StringN<Char>::withRoom(Data* data, U32 length) {
+  static_assert(alignof(Data) <= alignof(U32));
   std::size_t const size = sizeof(U32) + sizeof(Data) + length + 1;
   void* const room = std::realloc(data ? keptHash(data) : nullptr, size);
   if (!room) throw std::bad_alloc();

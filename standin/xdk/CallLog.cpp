@@ -84,11 +84,4 @@ void appendCall(std::string& line, ManagerId manager, Call call, CallArguments c
   line += " -> ";
 }
 
-std::string callLine(ManagerId manager, Call call, CallArguments const& arguments, XP_STATUS status,
-                     xpTableProfile const* tables) {
-  std::string line;
-  appendCall(line, manager, call, arguments, tables);
-  return line + std::to_string(status);
-}
-
 }  // namespace xdksim

@@ -38,8 +38,5 @@ CallLog streamLog(std::ostream& out);
 /// profile, shows "?".
 void appendCall(std::string& line, ManagerId manager, Call call, CallArguments const& arguments,
                 xpTableProfile const* tables);
-/// The whole line, with its status.
-std::string callLine(ManagerId manager, Call call, CallArguments const& arguments, XP_STATUS status,
-                     xpTableProfile const* tables);
 
 }  // namespace xdksim

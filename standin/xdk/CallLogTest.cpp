@@ -9,6 +9,13 @@
 namespace xdksim {
 namespace {
 
+std::string callLine(ManagerId manager, Call call, CallArguments const& arguments, XP_STATUS status,
+                     xpTableProfile const* tables) {
+  std::string line;
+  appendCall(line, manager, call, arguments, tables);
+  return line + std::to_string(status);
+}
+
 ManagerId managerAt(char const* name, U32 index = 0) { return {managerOf(name), index}; }
 
 /// A simulated SDK whose calls are heard.

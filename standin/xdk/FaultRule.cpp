@@ -1,6 +1,8 @@
 // The reader of the language of faults.
 #include "standin/xdk/FaultRule.h"
 
+#include "standin/xdk/Json.h"
+
 #include <charconv>
 #include <limits>
 #include <stdexcept>
@@ -15,8 +17,6 @@ using enum FaultRule::Outcome;
 using enum FaultRule::When;
 
 constexpr std::string_view blanks = " \t";
-
-std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
 
 Words wordsOf(std::string_view text) {
   Words words;

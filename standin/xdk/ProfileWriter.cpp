@@ -2,14 +2,13 @@
 #include "standin/xdk/ProfileWriter.h"
 
 #include "Xdk/ContextFields.h"
+#include "standin/xdk/Json.h"
 #include "standin/xdk/TableTypes.h"
 
 #include <algorithm>
 
 namespace xdksim {
 namespace {
-
-std::string quoted(std::string const& text) { return '"' + text + '"'; }
 
 std::string text(bool value) { return value ? "true" : "false"; }
 

@@ -168,14 +168,6 @@ std::vector<FaultCount> Sim::faults() const { return state_->faults.counts(); }
 
 std::string Sim::faultReport() const { return state_->faults.report(); }
 
-std::vector<std::string> Sim::unfiredFaults() const {
-  std::vector<std::string> unfired;
-  for (FaultCount const& fault : faults()) {
-    if (fault.fired == 0) unfired.push_back(fault.rule);
-  }
-  return unfired;
-}
-
 void Sim::idsDelAll(std::string_view manager) {
   auto* ids = managerKey(manager).manager->declared.ids;
   if (ids) ids->clear();

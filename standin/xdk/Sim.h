@@ -64,8 +64,6 @@ class Sim {
   std::vector<FaultCount> faults() const;
   /// The same as lines for a user, each with its line end; an abort writes them behind the calls.
   std::string faultReport() const;
-  /// The rules that never fired.
-  std::vector<std::string> unfiredFaults() const;
   /// Empties the class's `myId`, as before the SDK has filled it.  Throws likewise.
   void idsDelAll(std::string_view manager);
   /// Whether misuse that the SDK would let pass ends the process (see Strict.h); off at first.

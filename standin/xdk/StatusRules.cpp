@@ -1,6 +1,8 @@
 // Keys of the rules, and which rule a call follows.
 #include "standin/xdk/StatusRules.h"
 
+#include "standin/xdk/Json.h"
+
 #include <algorithm>
 #include <charconv>
 #include <stdexcept>
@@ -9,8 +11,6 @@ namespace xdksim {
 namespace {
 
 using Fault = std::invalid_argument;
-
-std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
 
 U32 indexOf(Manager const& manager, std::string_view digits) {
   if (manager.isSingleton())

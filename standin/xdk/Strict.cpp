@@ -20,7 +20,7 @@ bool isUse(Call call) {
 /// What the SDK's callers take for success.
 bool isAccepted(XP_STATUS status) { return status == 0 || status == 9 || status == 42; }
 
-bool isTakenDown(Manager const& manager) { return manager.has(Call::removeDevice); }
+bool canBeTakenDown(Manager const& manager) { return manager.has(Call::removeDevice); }
 
 // One that fails is its caller's matter: that hasn't ended anything.
 bool endsTakeDown(StrictCall const& call) {
@@ -66,7 +66,7 @@ void Strict::keep(StrictCall const& call) {
   bool isRemoval = call.call == Call::removeDevice;
   if (isDone && isRemoval && use != uses_.end()) use->second.isUp = false;
   if (isDone && call.call == Call::deInit) begun_.erase(row);
-  if (isTakenDown(*row) && (isAdd(call.call) || isRemoval)) lastDevice_ = call.arguments.device;
+  if (canBeTakenDown(*row) && (isAdd(call.call) || isRemoval)) lastDevice_ = call.arguments.device;
 }
 
 Strict::Use const* Strict::useOf(ManagerId manager, U32 device) const {
@@ -125,7 +125,7 @@ void Strict::put(StrictCall const& call, xpTableContext* const* word, U32 copies
 
 void Strict::checkTakenDown(StrictCall const& call) const {
   for (Manager const& manager : managers()) {
-    if (!isTakenDown(manager)) continue;
+    if (!canBeTakenDown(manager)) continue;
     Use const* use = useOf({&manager, 0}, lastDevice_);
     if (!use) continue;
     bool isBegun = manager.has(Call::deInit) && begun_.contains(&manager);

@@ -24,7 +24,9 @@ constexpr char const* footer =
     "Exit status: 0 success, 1 failure, such as output that can't be written, and findings of\n"
     "lint, 2 wrong usage, a bad profile or trace file, or tables of which a report can't be "
     "drawn.\n"
-    "Where the library ends the process by assertion, the tool is aborted.";
+    "Where the library ends the process by assertion, or the simulated SDK at a misuse, the tool "
+    "is\n"
+    "aborted; a fault with \"kill\" kills it.";
 
 /// The deepest command that the user has named; its help is the one to read.
 CLI::App const& namedCommand(CLI::App const& app) {
