@@ -182,6 +182,13 @@ TEST(IngressAclTablesTest, FirstTablesCopiesServeAll) {
   }
 }
 
+TEST(IngressAclTablesTest, CallGetsTheFirstTablesCopies) {
+  Rig rig(withCopies(42, {0x102, 1, 0}));
+  rig.bringUp();
+  EXPECT_THAT(rig.lines, Contains("xpIaclMgr[0]::createTable device=0 "
+                                  "list=0:42/0/0,1:43/0/0,2:44/0/0 copies=2 mode=1 -> 0"));
+}
+
 TEST(IngressAclTablesTest, RunInEveryMode) {
   auto profile = fullProfile();
   profile.ldePipeMode = 0;

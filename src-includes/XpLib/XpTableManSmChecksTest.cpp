@@ -1,4 +1,4 @@
-// What ends the process: each checked call and each manager that is asked for, text by text.
+// The status rule: each checked call, text by text.
 #include "XpLib/XpTableManSmAbortTest.h"
 
 #include <algorithm>
@@ -248,76 +248,6 @@ TEST(StatusRuleTest, FortyTwoCallsAreCheckedInOtherModes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EachCheckedCall, CheckedCallDeathTest, testing::ValuesIn(checkedCalls));
-
-// One manager that a platform layer is asked for.
-struct Asked {
-  char const* manager;
-  char const* local;
-  char const* signature;
-};
-
-void PrintTo(Asked const& asked, std::ostream* out) { *out << asked.manager; }
-
-constexpr Asked askedManagers[] = {
-    {"xpPortConfigMgr", "portConfigMgr", "void Kestrel::TableManSm::doCreateStaticTables()"},
-    {"xpAcmBankMgr", "acmBankMgr", "void Kestrel::TableManSm::doCreateStaticTables()"},
-    {"xpAcmRsltMgr", "acmRsltMgr", "void Kestrel::TableManSm::doCreateStaticTables()"},
-    {"xpEgressFilterMgr", "egressFilterMgr", "void Kestrel::TableManSm::doCreateStaticTables()"},
-    {"xpTrunkResolutionMgr", "trunkResolutionMgr",
-     "void Kestrel::TableManSm::doCreateStaticTables()"},
-    {"xpBdMgr", "bdMgr", "void Kestrel::TableManSm::doCreateBdTables()"},
-    {"xpEgressBdMgr", "egressBdMgr", "void Kestrel::TableManSm::doCreateBdTables()"},
-    {"aaclL4PortMgr[1]", "l4SrcPortMgr", "void Kestrel::TableManSm::doCreateL4PortTables()"},
-    {"aaclL4PortMgr[2]", "l4DstPortMgr", "void Kestrel::TableManSm::doCreateL4PortTables()"},
-    {"xpMgksMgr", "mgksMgr", "void Kestrel::TableManSm::doCreateAaclMgksTables()"},
-    {"xpAaclMgTableMgr", "mgTableMgr", "void Kestrel::TableManSm::doCreateAaclMgTables()"},
-    {"xpTunnelInfoMgr", "tunInfoMgr", "void Kestrel::TableManSm::doCreateTunnelTables()"},
-    {"xpTunnelIvifMgr", "tunIvifMgr", "void Kestrel::TableManSm::doCreateTunnelTables()"},
-    {"xpIpXformMgr[1]", "sipXformMgr", "void Kestrel::TableManSm::doCreateIpXformTables()"},
-    {"xpIpXformMgr[2]", "dipXformMgr", "void Kestrel::TableManSm::doCreateIpXformTables()"},
-    {"xpFdbMgr", "fdbMgr", "void Kestrel::TableManSm::doCreateFdbTable()"},
-    {"xpIpv4RouteMcMgr", "mrouteMgr", "void Kestrel::TableManSm::doCreateRouteMcTable()"},
-    {"xpIpv4PIMBiDirRPFMgr", "v4PimMgr", "void Kestrel::TableManSm::doCreatePimTable()"},
-    {"xpPortVlanIvifMgr", "portVlanMgr", "void Kestrel::TableManSm::doCreatePortVlanTable()"},
-    {"xpMdtMgr", "mdtMgr", "void Kestrel::TableManSm::doCreateMdtTable()"},
-    {"xpHdrModificationMgr", "hdrModMgr", "void Kestrel::TableManSm::doCreateHeaderModTables()"},
-    {"xpVifMgr", "vifMgr", "void Kestrel::TableManSm::doCreateVifTables()"},
-    {"xpControlMacMgr", "controlMacMgr", "void Kestrel::TableManSm::doCreateControlMacTable()"},
-    {"xpIpRouteLpmMgr[1]", "v4LpmMgr", "void Kestrel::TableManSm::doCreateLpmTables()"},
-    {"xpIpRouteLpmMgr[0]", "v6LpmMgr", "void Kestrel::TableManSm::doCreateLpmTables()"},
-    {"xpNhMgr", "nhMgr", "void Kestrel::TableManSm::doCreateNhTables()"},
-    {"xpIpv4HostMgr", "v4HostMgr", "void Kestrel::TableManSm::doCreateHostTables()"},
-    {"xpIpv6HostMgr", "v6HostMgr", "void Kestrel::TableManSm::doCreateHostTables()"},
-    {"xpIaclMgr", "iaclMgr", "void Kestrel::TableManSm::doCreateIAclTables()"},
-};
-
-class AskedManagerDeathTest : public testing::TestWithParam<Asked> {};
-
-TEST_P(AskedManagerDeathTest, MissingManagerEndsTheProcess) {
-  Rig rig;
-  rig.sim.managerNullIs(GetParam().manager, true);
-  expectAbort([&] { rig.bringUp(); }, assertion(GetParam().local, GetParam().signature));
-}
-
-INSTANTIATE_TEST_SUITE_P(EachManager, AskedManagerDeathTest, testing::ValuesIn(askedManagers));
-
-// Whoever catches the abort finds nothing undone.
-TEST(TableManSmDeathTest, FailureOfTheEgressHalfLeavesTheIngressTablePublished) {
-  Rig rig;
-  auto const sm = rig.bringUp();
-  rig.status->tableContextEntryDelAll();
-  rig.sim.managerNullIs("xpEgressBdMgr", true);
-  rig.sim.callLogIs([](std::string_view line) { fprintf(stderr, "%s\n", line.data()); });
-  struct Seen : ChipStatus::NotifieeConst {
-    void onTableContextEntry(U32 id) override { fprintf(stderr, "entry %u\n", id); }
-  };
-  Mox::Ptr<Seen> seen = new Seen;
-  seen->notifierIs(rig.status);
-  seen->isRegisteredNotifieeIs(true);
-  expectAbort([&] { sm->doCreateBdTables(); },
-              "xpBdMgr[0]::addDevice device=0 table=31 copies=1 mode=1 -> 0\nentry 31\n" +
-                  assertion("egressBdMgr", "void Kestrel::TableManSm::doCreateBdTables()"));
-}
 
 }  // namespace
 }  // namespace Kestrel::xpTableManSm

@@ -129,6 +129,16 @@ TEST(VifTablesTest, TableThatIsNotInUseIsInTheListAndNotPublished) {
   EXPECT_EQ(rig.entry(21), nullptr);
 }
 
+TEST(VifTablesTest, EachPublicationLooksTheIdUpAnew) {
+  Rig rig(withCopies(19, {1, 0, 0, 0, 0, 0, 0, 0}));
+  auto const sm = rig.bringUp();
+  rig.sim.callLogIs([](std::string_view line) {
+    if (line.starts_with("xpVifMgr[0]::addDevice")) xpVifMgr::myId[0] = 777;
+  });
+  sm->doCreateVifTables();
+  EXPECT_EQ(rig.entry(19)->plMgrId(), 777u);
+}
+
 TEST(VifTablesDeathTest, ThereMustBeOne) {
   Rig rig(withCopies(19, {0, 0, 0, 0, 0, 0, 0, 0}));
   expectAbort([&] { rig.bringUp(); }, assertion("index", vifSignature));

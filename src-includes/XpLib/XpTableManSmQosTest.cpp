@@ -103,6 +103,14 @@ TEST(PrepareToDieTest, PublishedTablesStay) {
   EXPECT_EQ(rig.status->version(), version);
 }
 
+TEST(PrepareToDieTest, FlagIsClearedLast) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  rig.sim.callLogIs([&sm](std::string_view) { EXPECT_TRUE(sm->initialized()); });
+  sm->doPrepareToDie();
+  EXPECT_FALSE(sm->initialized());
+}
+
 TEST(PrepareToDieTest, EachCallNamesTheDevice) {
   auto profile = fullProfile();
   profile.deviceId = 31;

@@ -89,6 +89,13 @@ TEST(TreadsTest, PrefixTableThatIsNotValidKeepsItsTread) {
   EXPECT_EQ(context.prefixTable[2].tread, 16u);
 }
 
+// As a second bring-up on the same contexts meets them.
+TEST(TreadsTest, TreadsPastSixteenAreRewrittenToo) {
+  auto context = withTreads({{0, 17}, {1, 16}});
+  doUpdateLpmTblCtx(50, &context, plan({{0, 5}}, {}));
+  EXPECT_EQ(treadsOf(context), (Treads{{0, 21}, {1, 16}}));
+}
+
 TEST(TreadsTest, EachTableHasItsPlan) {
   auto v4 = withTreads({{0, 0}});
   auto v6 = withTreads({{0, 0}});
@@ -193,14 +200,16 @@ TEST(LpmTablesTest, IndicesAreTheReverseOfTheNames) {
 }
 
 TEST(LpmTablesTest, FirstCopyIsRewrittenAndTheSecondIsTheSdks) {
-  auto profile = fullProfile();
-  auto const context = withTreads({{0, 0}, {4, 1}});
-  profile.tables[50] = xdksim::tableOf(std::vector{context, context}, 2);
-  Rig rig(profile);
-  rig.lpmTreadCfg = plan({{0, 5}, {1, 6}}, {});
-  rig.bringUp();
-  EXPECT_EQ(treadsOf(rig.published<xpLpmTableContext>(50, 0)), (Treads{{0, 21}, {4, 22}}));
-  EXPECT_EQ(treadsOf(rig.published<xpLpmTableContext>(50, 1)), (Treads{{0, 0}, {4, 1}}));
+  for (U32 id : {50u, 51u}) {
+    auto profile = fullProfile();
+    auto const context = withTreads({{0, 0}, {4, 1}});
+    profile.tables[id] = xdksim::tableOf(std::vector{context, context}, 2);
+    Rig rig(profile);
+    rig.lpmTreadCfg = plan({{0, 5}, {1, 6}}, {{0, 5}, {1, 6}});
+    rig.bringUp();
+    EXPECT_EQ(treadsOf(rig.published<xpLpmTableContext>(id, 0)), (Treads{{0, 21}, {4, 22}}));
+    EXPECT_EQ(treadsOf(rig.published<xpLpmTableContext>(id, 1)), (Treads{{0, 0}, {4, 1}}));
+  }
 }
 
 // The SDK gets the rewritten context.

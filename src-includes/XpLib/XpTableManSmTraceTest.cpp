@@ -121,6 +121,14 @@ TEST(TableManSmTraceTest, HeaderTablesBehindTheStopAreTracedAsSkipped) {
                                 atLevelOne(published(29, manager, one, 2))}));
 }
 
+TEST(TableManSmTraceTest, IngressAclCopiesAreALowByte) {
+  Rig rig(withCopies(42, {0x102}));
+  auto const sm = rig.bringUp();
+  Trace trace("XpTableManSm/1");
+  sm->doCreateIAclTables();
+  EXPECT_TRUE(trace.lines[1].ends_with("Number of IACL TCAM Table Copies : 2")) << trace.lines[1];
+}
+
 TEST(TableManSmTraceTest, SitesAreCountedEnabledOrNot) {
   Rig rig;
   auto const sm = rig.bringUp();

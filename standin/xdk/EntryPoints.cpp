@@ -1,5 +1,6 @@
 // The SDK's operations, each of which hands its call to the simulated SDK that lives.
 #include "Xdk/Xdk.h"
+#include "standin/xdk/Misuse.h"
 #include "standin/xdk/Sim.h"
 
 using xdksim::Call;
@@ -83,12 +84,14 @@ XP_STATUS xpIaclMgr::createTable(U32 devId, std::vector<xpTblCtxPerIdx*>& tblCtx
       {.device = devId, .list = &tblCtxPerIdx, .copies = tblCopyNum, .mode = mode});
 }
 
-XP_STATUS xpVifMgr::writeEntry(U32 devId, U32 vifId, xpDirection_t direction, xpVifEntry*) {
+XP_STATUS xpVifMgr::writeEntry(U32 devId, U32 vifId, xpDirection_t direction, xpVifEntry* entry) {
+  if (!entry) xdksim::misuse("xpVifMgr::writeEntry gets no entry");
   return Sim::current().call(*this, Call::writeEntry,
                              {.device = devId, .vif = vifId, .direction = direction});
 }
 
-xpAllocatorMgr* xpAllocatorMgr::instance(U32) {
+xpAllocatorMgr* xpAllocatorMgr::instance(U32 scope) {
+  if (scope != 0) xdksim::misuse("it has no allocator " + std::to_string(scope) + ", only 0");
   static xpAllocatorMgr one;
   return &one;
 }

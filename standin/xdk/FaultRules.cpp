@@ -11,11 +11,11 @@ namespace {
 using enum FaultRule::Outcome;
 using enum FaultRule::When;
 
-std::string times(U32 number) { return number == 1 ? "once" : std::to_string(number) + " times"; }
-
-/// "was called once", "was never called".
-std::string passive(std::string const& verb, U32 number) {
-  return number == 0 ? "was never " + verb : "was " + verb + ' ' + times(number);
+template <class Say>
+void tellTimes(U32 number, Say const& say) {
+  if (number == 1) return say("once");
+  say(number);
+  say(" times");
 }
 
 }  // namespace
@@ -27,25 +27,33 @@ bool FaultRules::Entry::meets(bool isFirst) {
                (rule.when == every && calls % rule.number == 0) ||
                (rule.when == after && isBehindOther);
   if (isDue && isFirst) ++fired;
-  tellAnew();
   return isDue && isFirst;
 }
 
-void FaultRules::Entry::tellAnew() {
-  std::string const key = rule.text.substr(0, rule.text.find(' '));
-  line = "simulated SDK: fault \"" + rule.text + "\" ";
-  if (fired > 0)
-    line += "fired " + times(fired);
-  else
-    line +=
-        "never fired: " + key + ' ' + passive(rule.outcome == null ? "looked up" : "called", calls);
-  line += '\n';
+/// The words for what became of the rule, piece by piece: for a signal handler none may be put
+/// together.
+template <class Say>
+void FaultRules::Entry::tell(Say const& say) const {
+  say("simulated SDK: fault \"");
+  say(rule.text);
+  say("\" ");
+  if (fired > 0) {
+    say("fired ");
+    tellTimes(fired, say);
+  } else {
+    say("never fired: ");
+    say(std::string_view(rule.text).substr(0, rule.text.find(' ')));
+    say(calls == 0 ? " was never " : " was ");
+    say(rule.outcome == null ? "looked up" : "called");
+    if (calls > 0) say(" ");
+    if (calls > 0) tellTimes(calls, say);
+  }
+  say("\n");
 }
 
 void FaultRules::add(FaultRule rule) {
   Entry& entry = entries_.emplace_back();
   entry.rule = std::move(rule);
-  entry.tellAnew();
 }
 
 std::optional<XP_STATUS> FaultRules::atCall(ManagerId manager, Call call) {
@@ -56,8 +64,10 @@ std::optional<XP_STATUS> FaultRules::atCall(ManagerId manager, Call call) {
       fired = &entry.rule;
   }
   if (!fired) return {};
-  // Nothing may be written any more, also by what is registered for an orderly end.
-  if (fired->outcome == FaultRule::Outcome::kill) raise(SIGKILL);
+  if (fired->outcome == FaultRule::Outcome::kill) {
+    tell();
+    raise(SIGKILL);  // past all that is registered for an orderly end
+  }
   return fired->status;
 }
 
@@ -85,12 +95,17 @@ std::vector<FaultCount> FaultRules::counts() const {
 
 std::string FaultRules::report() const {
   std::string text;
-  for (Entry const& entry : entries_) text += entry.line;
+  struct Appender {
+    std::string& text;
+    void operator()(std::string_view piece) const { text += piece; }
+    void operator()(U32 number) const { text += std::to_string(number); }
+  };
+  for (Entry const& entry : entries_) entry.tell(Appender{text});
   return text;
 }
 
 void FaultRules::tell() const noexcept {
-  for (Entry const& entry : entries_) LastWords::say(entry.line);
+  for (Entry const& entry : entries_) entry.tell([](auto piece) { LastWords::say(piece); });
 }
 
 }  // namespace xdksim

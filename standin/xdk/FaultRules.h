@@ -46,10 +46,10 @@ class FaultRules {
     U32 calls = 0;
     U32 fired = 0;
     bool isBehindOther = false;
-    std::string line;  // of the report; made here because a signal handler writes it
 
     bool meets(bool isFirst);
-    void tellAnew();
+    template <class Say>
+    void tell(Say const& say) const;
   };
 
   std::vector<Entry> entries_;

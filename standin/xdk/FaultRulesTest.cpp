@@ -243,7 +243,9 @@ TEST(FaultRulesTest, KilledCallEndsTheProcessAndIsNotInTheLog) {
   Sim sim;
   sim.callLogIs([](std::string_view line) { fprintf(stderr, "%s\n", std::string(line).c_str()); });
   sim.newFault("xpEgressAclMgr::init kill at 2");
-  EXPECT_EXIT(answers(3), KilledBySignal(SIGKILL), StrEq("xpEgressAclMgr::init -> 0\n"));
+  EXPECT_EXIT(answers(3), KilledBySignal(SIGKILL),
+              StrEq("xpEgressAclMgr::init -> 0\n"
+                    "simulated SDK: fault \"xpEgressAclMgr::init kill at 2\" fired once\n"));
 }
 
 TEST(FaultRulesTest, AbortTellsTheFaultsBehindTheCalls) {

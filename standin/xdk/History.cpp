@@ -9,31 +9,34 @@ namespace xdksim {
 
 void History::callBegins(ManagerId manager, Call call, CallArguments const& arguments,
                          xpTableProfile const* tables) {
-  std::string& line = lineOf(numCalls_++);
-  line.clear();
-  appendCall(line, manager, call, arguments, tables);
-  statusAt_ = line.size();
-  line += '?';
-  if (numCalls_ > room) return;
-  heading_ = "simulated SDK: the last ";
-  heading_ += numCalls_ == 1 ? "call:\n" : std::to_string(numCalls_) + " calls:\n";
+  current_.clear();
+  appendCall(current_, manager, call, arguments, tables);
+  isInside_ = true;
 }
 
 void History::callEnds(XP_STATUS status) {
-  std::string& line = lineOf(numCalls_ - 1);
-  line.resize(statusAt_);
+  isInside_ = false;
+  std::string& line = lines_[next_];
+  line = current_;
   line += std::to_string(status);
+  next_ = placeBehind(next_, 1);
+  count_ = std::min(count_ + 1, room);
 }
 
-std::string const& History::last() const { return lineOf(numCalls_ - 1); }
-
 void History::tell() const noexcept {
-  if (numCalls_ == 0) return;
-  LastWords::say(heading_);
-  for (U64 call = numCalls_ - std::min<U64>(numCalls_, room); call < numCalls_; ++call) {
-    LastWords::say(lineOf(call));
+  U32 const inside = isInside_ ? 1 : 0;
+  U32 const ended = std::min<U32>(count_, room - inside);
+  if (ended + inside == 0) return;
+  LastWords::say("simulated SDK: the last ");
+  if (ended + inside > 1) LastWords::say(ended + inside);
+  LastWords::say(ended + inside > 1 ? " calls:\n" : "call:\n");
+  for (U32 steps = ended; steps > 0; --steps) {
+    LastWords::say(lines_[placeBehind(next_, numPlaces - steps)]);
     LastWords::say("\n");
   }
+  if (inside == 0) return;
+  LastWords::say(current_);
+  LastWords::say("?\n");
 }
 
 }  // namespace xdksim

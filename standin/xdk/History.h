@@ -5,37 +5,41 @@
 #include "standin/xdk/CallLog.h"
 
 #include <array>
+#include <atomic>
 #include <string>
 
 namespace xdksim {
 
-/// The lines of the call log of the last 256 calls.  Their text is made as the calls come, because
-/// a signal handler may do no more than write it; buffers are used again, so that a call allocates
-/// nothing once they have grown.
+/// The lines of the call log of the last 256 calls.  A signal handler may ask for them at any
+/// moment: it reads no line that is being written.  Buffers are used again, so that a call
+/// allocates nothing once they have grown.
 class History {
  public:
   static constexpr U32 room = 256;
 
-  /// Enters a call, with "?" as its status: what it answers isn't known until it does.
+  /// A call begins; what it answers isn't known until it does.
   void callBegins(ManagerId manager, Call call, CallArguments const& arguments,
                   xpTableProfile const* tables);
-  /// Gives the last call its status.
+  /// The call that has begun ends.
   void callEnds(XP_STATUS status);
-  /// The last call's line; valid until the next begins.  There must be one.
-  std::string const& last() const;
+  /// The line of the last call that has ended; valid until the next ends.  There must be one.
+  std::string const& last() const { return lines_[placeBehind(next_, room)]; }
 
   /// Writes "simulated SDK: the last <n> calls:" and their lines, oldest first, to standard error;
-  /// nothing before the first call.  A signal handler may call it.
+  /// a call that hasn't ended has "?" as its status.  Nothing before the first call.  A signal
+  /// handler may call it.
   void tell() const noexcept;
 
  private:
-  std::string& lineOf(U64 call) { return lines_[call % room]; }
-  std::string const& lineOf(U64 call) const { return lines_[call % room]; }
+  // One place more than there are lines to tell: the next line is written there.
+  static constexpr U32 numPlaces = room + 1;
+  static U32 placeBehind(U32 place, U32 steps) { return (place + steps) % numPlaces; }
 
-  std::array<std::string, room> lines_;
-  std::string heading_;
-  std::size_t statusAt_ = 0;  // place of the status in the last line
-  U64 numCalls_ = 0;
+  std::array<std::string, numPlaces> lines_;
+  std::atomic<U32> next_ = 0;   // place of the next line
+  std::atomic<U32> count_ = 0;  // lines behind one another in front of it
+  std::string current_;         // the call that has begun, but for its status
+  std::atomic<bool> isInside_ = false;
 };
 
 }  // namespace xdksim

@@ -177,12 +177,35 @@ TEST(HistoryRoomTest, OldestGoFirstWhenThereAreMore) {
 
 ManagerId fdb() { return {managerOf("xpFdbMgr"), 0}; }
 
+// What an abort tells that comes now.
+std::string told(History const& history) {
+  testing::internal::CaptureStderr();
+  history.tell();
+  return testing::internal::GetCapturedStderr();
+}
+
 TEST(HistoryLineTest, CallThatHasNotAnsweredHasNoStatus) {
   History history;
+  EXPECT_EQ(told(history), "");
   history.callBegins(fdb(), Call::addTable, {.device = 3, .copies = 1, .mode = 1}, nullptr);
-  EXPECT_EQ(history.last(), "xpFdbMgr[0]::addDevice device=3 table=- copies=1 mode=1 -> ?");
+  std::string const line = "xpFdbMgr[0]::addDevice device=3 table=- copies=1 mode=1 -> ";
+  EXPECT_EQ(told(history), "simulated SDK: the last call:\n" + line + "?\n");
   history.callEnds(42);
-  EXPECT_EQ(history.last(), "xpFdbMgr[0]::addDevice device=3 table=- copies=1 mode=1 -> 42");
+  EXPECT_EQ(history.last(), line + "42");
+  EXPECT_EQ(told(history), "simulated SDK: the last call:\n" + line + "42\n");
+}
+
+TEST(HistoryLineTest, CallThatHasNotAnsweredIsOneOfTheLast) {
+  History history;
+  for (U32 i = 0; i < 300; ++i) {
+    history.callBegins(fdb(), Call::init, {}, nullptr);
+    history.callEnds(static_cast<XP_STATUS>(i));
+  }
+  history.callBegins(fdb(), Call::deInit, {}, nullptr);
+  std::string const text = told(history);
+  EXPECT_TRUE(text.starts_with("simulated SDK: the last 256 calls:\nxpFdbMgr[0]::init -> 45\n"));
+  EXPECT_TRUE(text.ends_with("xpFdbMgr[0]::init -> 299\nxpFdbMgr[0]::deInit -> ?\n"));
+  EXPECT_EQ(std::ranges::count(text, '\n'), 257);
 }
 
 TEST(HistoryLineTest, ShorterLineReplacesALongerOne) {

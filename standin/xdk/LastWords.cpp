@@ -2,6 +2,8 @@
 #include "standin/xdk/LastWords.h"
 
 #include <cerrno>
+#include <charconv>
+#include <iterator>
 #include <unistd.h>
 
 namespace xdksim {
@@ -39,6 +41,11 @@ void LastWords::say(std::string_view text) noexcept {
     else if (errno != EINTR)
       return;
   }
+}
+
+void LastWords::say(U32 number) noexcept {
+  char digits[10];
+  say({digits, std::to_chars(digits, std::end(digits), number).ptr});
 }
 
 }  // namespace xdksim

@@ -1,6 +1,8 @@
 // Text that follows when the process aborts.
 #pragma once
 
+#include "Mox/Integers.h"
+
 #include <csignal>
 #include <string_view>
 
@@ -11,8 +13,8 @@ namespace xdksim {
 /// done so by then, so the text stands behind it.  One at a time.
 class LastWords {
  public:
-  /// `speak` runs in a signal handler: it hands text that is there already to `say`, and does no
-  /// more.
+  /// `speak` runs in a signal handler, which may come at any moment: it hands text and numbers that
+  /// are whole at every moment to `say`, and does no more.
   explicit LastWords(void (*speak)());
   /// The former handler is back, unless another one has come since.
   ~LastWords();
@@ -21,6 +23,7 @@ class LastWords {
 
   /// Writes to standard error, past all buffers.
   static void say(std::string_view text) noexcept;
+  static void say(U32 number) noexcept;
 
  private:
   static void handle(int signal);

@@ -11,6 +11,7 @@
 #include "standin/xdk/Strict.h"
 
 #include <algorithm>
+#include <exception>
 #include <map>
 #include <stdexcept>
 #include <unordered_map>
@@ -118,7 +119,9 @@ Sim::Sim(Profile profile) : profile_(std::move(profile)) {
   lastWords_ = std::make_unique<LastWords>(tellLast);
 }
 
+// An exception that is under way has broken its caller's work off.
 Sim::~Sim() {
+  if (std::uncaught_exceptions() == 0) state_->strict.ends();
   lastWords_.reset();
   live = nullptr;
 }

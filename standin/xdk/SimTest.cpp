@@ -314,5 +314,20 @@ TEST(SimTest, ContextsChangeInPlace) {
   EXPECT_EQ(sim.profile(), defaultProfile());
 }
 
+TEST(SimDeathTest, HasOneAllocator) {
+  Sim sim;
+  U32 vif = 0;
+  EXPECT_EQ(xpAllocatorMgr::instance(0)->getNullPortVif(vif), 0);
+  EXPECT_EQ(vif, 7u);
+  EXPECT_DEATH(xpAllocatorMgr::instance(1), "simulated SDK: it has no allocator 1, only 0");
+}
+
+TEST(SimDeathTest, WritesNoMissingEntry) {
+  Sim sim;
+  auto* const vif = static_cast<xpVifMgr*>(xpIfPl::instance()->getPrimitiveMgr(xpVifMgr::myId[0]));
+  EXPECT_DEATH(vif->writeEntry(0, 7, XP_INGRESS, nullptr),
+               "simulated SDK: xpVifMgr::writeEntry gets no entry");
+}
+
 }  // namespace
 }  // namespace xdksim

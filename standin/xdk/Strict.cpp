@@ -28,9 +28,15 @@ bool endsTakeDown(StrictCall const& call) {
          isAccepted(call.status);
 }
 
-[[noreturn]] void finding(StrictCall const& call, std::string const& what) {
-  misuse("strict mode: " + call.manager.name() + "::" + operationOf(call.call).name + ' ' + what);
+std::string shown(StrictCall const& call) {
+  return call.manager.name() + "::" + operationOf(call.call).name;
 }
+
+[[noreturn]] void finding(StrictCall const& call, std::string const& what) {
+  misuse("strict mode: " + shown(call) + ' ' + what);
+}
+
+bool beginsAnew(StrictCall const& call) { return isAdd(call.call) || call.call == Call::init; }
 
 std::string shown(U32 device) { return "device " + std::to_string(device); }
 
@@ -43,10 +49,18 @@ std::string shown(TableCopy const& copy) {
 void Strict::called(StrictCall const& call) {
   if (isOn_) check(call);
   keep(call);
-  if (isOn_ && endsTakeDown(call)) checkTakenDown(call);
+  if (!endsTakeDown(call)) return;
+  if (isOn_) checkTakenDown(shown(call) + " ends the take-down");
+  isTakingDown_ = false;
+}
+
+void Strict::ends() const {
+  if (isOn_ && isTakingDown_) checkTakenDown("the SDK ends behind the take-down");
 }
 
 void Strict::check(StrictCall const& call) {
+  if (isTakingDown_ && beginsAnew(call))
+    checkTakenDown(shown(call) + " comes behind the take-down");
   if (isAdd(call.call)) checkSecondAdd(call);
   if (isUse(call.call)) checkUse(call);
   if (call.bringUp != 0) putTables(call);
@@ -67,6 +81,11 @@ void Strict::keep(StrictCall const& call) {
   if (isDone && isRemoval && use != uses_.end()) use->second.isUp = false;
   if (isDone && call.call == Call::deInit) begun_.erase(row);
   if (canBeTakenDown(*row) && (isAdd(call.call) || isRemoval)) lastDevice_ = call.arguments.device;
+  // A step that the SDK refuses ends the take-down: its caller goes no further.
+  if (isRemoval || call.call == Call::deInit)
+    isTakingDown_ = isDone;
+  else if (beginsAnew(call))
+    isTakingDown_ = false;
 }
 
 Strict::Use const* Strict::useOf(ManagerId manager, U32 device) const {
@@ -123,15 +142,15 @@ void Strict::put(StrictCall const& call, xpTableContext* const* word, U32 copies
   }
 }
 
-void Strict::checkTakenDown(StrictCall const& call) const {
+void Strict::checkTakenDown(std::string const& where) const {
   for (Manager const& manager : managers()) {
     if (!canBeTakenDown(manager)) continue;
     Use const* use = useOf({&manager, 0}, lastDevice_);
     if (!use) continue;
     bool isBegun = manager.has(Call::deInit) && begun_.contains(&manager);
     if (use->isUp || isBegun)
-      finding(call, "ends the take-down of " + shown(lastDevice_) + ", and " + manager.name +
-                        " is still up, without " + (use->isUp ? "removeDevice" : "deInit"));
+      misuse("strict mode: " + where + " of " + shown(lastDevice_) + ", and " + manager.name +
+             " is still up, without " + (use->isUp ? "removeDevice" : "deInit"));
   }
 }
 

@@ -28,7 +28,8 @@ struct StrictCall {
 ///    `createTable`, `removeDevice`, and `deInit` without any device;
 ///  - a table given to a manager of whose SRAM blocks one is another table's, given in the same
 ///    bring-up, without both declaring it shared;
-///  - a manager that is still up at the end of the take-down, the `deInit` of `xpFlowControlMgr`.
+///  - a manager that is still up at the end of the take-down: the `deInit` of `xpFlowControlMgr`,
+///    or what comes behind one that forgets it, be it the next bring-up or the end of the SDK.
 ///
 /// No misuse are what the library is bound to do: a second removal, managers that are never taken
 /// down, a new bring-up on a device that is up, and operations on their own, outside a bring-up.
@@ -40,6 +41,8 @@ class Strict {
 
   /// Is told of each call before it answers.
   void called(StrictCall const& call);
+  /// The SDK ends.
+  void ends() const;
 
  private:
   /// What has become of a device in a manager's hands, from its first `addDevice` on.
@@ -57,12 +60,13 @@ class Strict {
   void checkUse(StrictCall const& call) const;
   void putTables(StrictCall const& call);
   void put(StrictCall const& call, xpTableContext* const* word, U32 copies);
-  void checkTakenDown(StrictCall const& call) const;
+  void checkTakenDown(std::string const& where) const;
 
   bool isOn_ = false;
   std::map<UseKey, Use> uses_;
   std::set<Manager const*> begun_;  // those that want `deInit`
   U32 lastDevice_ = 0;              // of the last call to a manager that can be taken down
+  bool isTakingDown_ = false;       // since the first removal that the SDK has accepted
   SramOwners owners_;
   U32 ownersBringUp_ = 0;
 };

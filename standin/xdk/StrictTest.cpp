@@ -122,7 +122,7 @@ TEST_F(StrictTest, WhatWasAddedBeforeItWasOnIsKnown) {
 TEST_F(StrictTest, SecondRemoval) {
   addQos();
   xpQueueCounterMgr::instance()->removeDevice(0);
-  xpQueueCounterMgr::instance()->removeDevice(0);
+  takeDown();
 }
 
 TEST_F(StrictTest, WholeTakeDown) {
@@ -148,6 +148,18 @@ TEST_F(StrictTest, TakeDownWithoutAnyRemoval) {
   expectFinding([] { xpFlowControlMgr::instance()->deInit(); },
                 "xpFlowControlMgr::deInit ends the take-down of device 2, and xpAqmMgr is still "
                 "up, without removeDevice");
+}
+
+TEST_F(StrictTest, TakeDownThatForgetsItsLastCallIsFoundByTheNextBringUp) {
+  addQos();
+  expectFinding(
+      [this] {
+        takeDown("xpFlowControlMgr::deInit");
+        addQos();
+      },
+      "xpAqmMgr::addDevice comes behind the take-down of device 0, and xpFlowControlMgr is still "
+      "up, "
+      "without deInit");
 }
 
 TEST_F(StrictTest, ToleratedAnswersTakeDownToo) {
@@ -213,6 +225,23 @@ TEST_F(StrictTest, ResetTurnsItOff) {
   begin();
   add(fdb(), 0);
   add(fdb(), 0);
+}
+
+TEST(StrictEndTest, TakeDownThatForgetsItsLastCallIsFoundAtTheEnd) {
+  expectFinding(
+      [] {
+        Sim sim;
+        sim.strictIs(true);
+        xpLanzMgr::instance()->addDevice(0, XP_INIT_COLD);
+        xpLanzMgr::instance()->removeDevice(0);
+      },
+      "the SDK ends behind the take-down of device 0, and xpLanzMgr is still up, without deInit");
+}
+
+TEST(StrictEndTest, EndWithoutATakeDownIsFine) {
+  Sim sim;
+  sim.strictIs(true);
+  xpLanzMgr::instance()->addDevice(0, XP_INIT_COLD);
 }
 
 TEST(LenientTest, OffAtFirst) {

@@ -2,6 +2,7 @@
 #include "tests/tool/ToolRun.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
@@ -68,6 +69,55 @@ TEST_F(PictureFilesTest, FileBehindALinkIsReplacedAndTheLinkStays) {
   EXPECT_EQ(in("report sram --svg link.svg").status, 0);
   EXPECT_TRUE(file("old.svg").starts_with("<svg"));
   EXPECT_TRUE(std::filesystem::is_symlink(link));
+}
+
+TEST_F(PictureFilesTest, LinkToWhatIsNotThereYetLeadsThere) {
+  std::filesystem::create_symlink("new.svg", folder_.path() + "/link.svg");
+  EXPECT_EQ(in("report sram --svg link.svg").status, 0);
+  EXPECT_TRUE(std::filesystem::is_symlink(folder_.path() + "/link.svg"));
+  EXPECT_EQ(files(), (Names{"link.svg", "new.svg"}));
+}
+
+TEST_F(PictureFilesTest, LinkThatLeadsNowhereIsAComplaintAndStays) {
+  std::filesystem::create_symlink("loop.svg", folder_.path() + "/loop.svg");
+  std::filesystem::create_symlink("nowhere/new.svg", folder_.path() + "/lost.svg");
+  EXPECT_EQ(in("report sram --svg loop.svg").err,
+            "kestrel: error: loop.svg: cannot be written: Too many levels of symbolic links\n");
+  EXPECT_EQ(in("report sram --svg lost.svg").err,
+            "kestrel: error: lost.svg: cannot be written: No such file or directory\n");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder_.path() + "/loop.svg"));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder_.path() + "/lost.svg"));
+}
+
+TEST_F(PictureFilesTest, TwoLinksToOneFileAreWrongUsage) {
+  std::filesystem::create_symlink("new.svg", folder_.path() + "/a");
+  std::filesystem::create_symlink("new.svg", folder_.path() + "/b");
+  EXPECT_EQ(in("report sram --svg a --html b").status, 2);
+  EXPECT_EQ(files(), (Names{"a", "b"}));
+}
+
+TEST_F(PictureFilesTest, LongNameIsANameLikeAnyOther) {
+  std::string const name(255, 'x');
+  EXPECT_EQ(in("report sram --svg " + name).status, 0);
+  EXPECT_EQ(files(), Names{name});
+}
+
+TEST_F(PictureFilesTest, NoneIsLeftByAReaderThatGoesEarly) {
+  std::string const command = "cd " + folder_.path() +
+                              " && " KESTREL_BINARY_DIR
+                              "/bin/kestrel report sram --svg /dev/stdout --html page.html "
+                              "2>/dev/null | head -c 1 >/dev/null";
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  EXPECT_EQ(files(), Names());
+}
+
+TEST_F(PictureFilesTest, NoneIsLeftByALimitOfSize) {
+  std::string const command = "cd " + folder_.path() +
+                              " && ulimit -f 20 && " KESTREL_BINARY_DIR
+                              "/bin/kestrel report sram --svg big.svg 2>err";
+  EXPECT_NE(std::system(command.c_str()), 0);
+  EXPECT_EQ(file("err"), "kestrel: error: big.svg: cannot be written: File too large\n");
+  EXPECT_EQ(files(), Names{"err"});
 }
 
 TEST_F(PictureFilesTest, NoneIsLeftWhereOneCannotBeWritten) {

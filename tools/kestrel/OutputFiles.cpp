@@ -5,6 +5,7 @@
 #include "tools/kestrel/UsageFault.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
@@ -48,11 +49,16 @@ mode_t freshMode() {
   return 0666 & ~mask;
 }
 
-/// Where the path leads, through links too.  One that leads to no place stays as it is.
-std::string placeOf(std::string const& path) {
+/// Where the path leads, through links too, also through one to what isn't there yet.
+fs::path placeOf(std::string const& path) {
+  constexpr int maxLinks = 40;  // as the system has it
   std::error_code unknown;
-  fs::path const place = fs::weakly_canonical(fs::absolute(path, unknown), unknown);
-  return unknown ? path : place.string();
+  fs::path place = fs::absolute(path, unknown);
+  for (int links = 0; fs::is_symlink(fs::symlink_status(place, unknown)); ++links) {
+    if (links == maxLinks) refuse(path, ELOOP);
+    place = place.parent_path() / fs::read_symlink(place, unknown);
+  }
+  return fs::weakly_canonical(place.parent_path(), unknown) / place.filename();
 }
 
 /// A file beside its place, which goes unless it is moved there.
@@ -66,7 +72,7 @@ class Beside {
   Beside& operator=(Beside const&) = delete;
 
   void write(mode_t mode) {
-    std::string path = place_ + ".XXXXXX";
+    std::string path = place_.parent_path() / ".kestrel-XXXXXX";
     int const descriptor = mkstemp(path.data());
     if (descriptor < 0) refuse(file_.path, errno);
     path_ = path;
@@ -80,7 +86,7 @@ class Beside {
 
  private:
   OutputFile const& file_;  // outlives this
-  std::string place_;
+  fs::path place_;
   std::string path_;  // empty while there is none
 };
 
@@ -92,16 +98,31 @@ void writeDevice(OutputFile const& file) {
 }
 
 void checkDistinct(std::vector<OutputFile> const& files) {
-  std::set<std::string> places;
+  std::set<fs::path> places;
   for (OutputFile const& file : files)
     if (!places.insert(placeOf(file.path)).second)
       throw UsageFault(file.path + ": both pictures would be written here");
 }
 
+/// While it lives, a pipe that nobody reads any more and a limit of size are errors of writing, and
+/// don't end the process, which would leave files lying about.
+class Uninterrupted {
+ public:
+  ~Uninterrupted() {
+    std::signal(SIGPIPE, pipe_);
+    std::signal(SIGXFSZ, size_);
+  }
+
+ private:
+  void (*pipe_)(int) = std::signal(SIGPIPE, SIG_IGN);
+  void (*size_)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
+
 }  // namespace
 
 void writeFiles(std::vector<OutputFile> const& files) {
   checkDistinct(files);
+  Uninterrupted const uninterrupted;
   std::list<Beside> beside;
   std::vector<OutputFile const*> devices;
   for (OutputFile const& file : files) {
