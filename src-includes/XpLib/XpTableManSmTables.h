@@ -1,6 +1,7 @@
 // The catalogue of tables: ids in the SDK's profile, published names, and who manages them.
 #pragma once
 
+#include "Mox/String8.h"
 #include "Xdk/LayerMgrs.h"
 #include "Xdk/PlatformLayers.h"
 #include "Xdk/TableProfile.h"
@@ -143,5 +144,8 @@ inline constexpr TunnelTable tunnelIvif{2, "TNL_IVIF", 0};
 inline constexpr TunnelTable localVtepVni{14, "LOCAL_VTEP_VNI", 1};
 inline constexpr TunnelTable localVtep{12, "LOCAL_VTEP", 2};
 inline constexpr TunnelTable vni{13, "VNI", 3};
+
+/// The name under which the table with that id is published; empty where none is.
+Mox::String8 publishedName(U32 tableId);
 
 }  // namespace Kestrel::xpTableManSm
