@@ -14,15 +14,13 @@ constexpr U32 blockRows = 1024;
 
 bool isSet(U32 bitmap, U32 bit) { return (bitmap >> bit & 1) != 0; }
 
-bool fitsRow(U32 width) { return width >= 1 && width <= sramRowWidth; }
-
 U32 blocksOf(U32 entries, U32 width) { return entries / (sramRowWidth / width) / blockRows; }
 
 std::vector<SramRun> runsOf(xpHashTableContext const& context) {
   U32 const ways = context.numOfWays;
   if (context.numOfEntries == 0 || ways == 0 || ways > std::size(context.poolId)) return {};
   U32 const entries = context.numOfEntries / ways;
-  U32 const width = U32{context.keySize} + context.valueSize;
+  U32 const width = entryWidth(context);
   bool const isDouble = context.keySize == sramRowWidth && context.valueSize == sramRowWidth;
   if (!isDouble && !fitsRow(width)) return {};
   U32 const blocks = isDouble ? entries * 2 / blockRows : blocksOf(entries, width);
@@ -38,9 +36,8 @@ std::vector<SramRun> runsOf(xpDirectTableContext const& context) {
            blocksOf(context.numOfEntries, context.entryWidth)}};
 }
 
-// Bits above the pools count as ways, though nothing lies there.
 std::vector<SramRun> runsOf(xpNhTableContext const& context) {
-  U32 const ways = static_cast<U32>(std::popcount(context.poolBitmap));
+  U32 const ways = numWays(context);
   if (context.numEntries == 0 || ways == 0 || !fitsRow(context.entryWidth)) return {};
   U32 const blocks = blocksOf(context.numEntries / ways, context.entryWidth);
   std::vector<SramRun> runs;
@@ -74,6 +71,10 @@ std::vector<SramRun> runsOf(xpLpmTableContext const& context) {
 std::vector<SramRun> runsOf(xpTableContext const&) { return {}; }
 
 }  // namespace
+
+U32 numWays(xpNhTableContext const& context) {
+  return static_cast<U32>(std::popcount(context.poolBitmap));
+}
 
 U32 sramPoolBlocks(U32 pool) {
   constexpr U32 tiles[sramPools] = {6, 6, 6, 6, 8, 8, 8, 8};

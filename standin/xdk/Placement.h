@@ -4,7 +4,7 @@
 // tile 8 blocks.  Only whole blocks count: every division drops its remainder.
 #pragma once
 
-#include "Xdk/TableContext.h"
+#include "Xdk/TableContexts.h"
 
 #include <compare>
 #include <vector>
@@ -14,6 +14,18 @@ namespace xdksim {
 constexpr U32 sramPools = 8;
 constexpr U32 sramRowWidth = 256;  ///< bits
 constexpr U32 sramTileBlocks = 8;
+
+/// Whether a row holds an entry of so many bits, other than one of two rows.
+inline bool fitsRow(U32 width) { return width >= 1 && width <= sramRowWidth; }
+
+/// Bits of an entry, which is a key and a value.
+inline U32 entryWidth(xpHashTableContext const& context) {
+  return U32{context.keySize} + context.valueSize;
+}
+
+/// Ways of a next-hop table.  All 32 bits of its bitmap count, though nothing lies beyond the
+/// pools.
+U32 numWays(xpNhTableContext const& context);
 
 /// Blocks of a pool, which it has from 0 on: 48 in pools 0 to 3, 64 in pools 4 to 7, none where
 /// there is no such pool.

@@ -4,7 +4,7 @@
 #include "standin/xdk/ProfileWriter.h"
 #include "tools/kestrel/BringUp.h"
 #include "tools/kestrel/Demo.h"
-#include "tools/kestrel/Lint.h"
+#include "tools/kestrel/PrintLint.h"
 #include "tools/kestrel/RequestedChip.h"
 #include "tools/kestrel/Types.h"
 
@@ -27,7 +27,7 @@ bool wantsColour() {
 
 ExitStatus demo(Request const& request, std::ostream& out) {
   Insight const insight(request.insight);
-  printDemo(xdksim::defaultProfile(), wantsColour(), out);
+  printDemo(wantsColour(), out);
   return success;
 }
 
@@ -42,7 +42,7 @@ ExitStatus bringUp(Request const& request, std::ostream& out) {
 }
 
 ExitStatus lint(Request const& request, std::ostream& out) {
-  std::vector<xdksim::Finding> const findings = findingsOf(profileOf(request));
+  std::vector<Finding> const findings = findingsOf(profileOf(request));
   if (request.json)
     printFindingsAsJson(findings, out);
   else

@@ -43,8 +43,8 @@ ExitStatus profile(Request const& request, std::ostream& out);
 ExitStatus trace(Request const& request, std::ostream& out);
 ExitStatus types(Request const& request, std::ostream& out);
 
-// All throw `UsageFault` also for a table that the chip doesn't have, and for one on which the
-// report would never end or end otherwise than by the library's own assertion.
+// All throw `UsageFault` also for a table that the chip doesn't have, and for a report that is
+// refused (Refusal.h).
 ExitStatus reportSummary(Request const& request, std::ostream& out);
 ExitStatus reportDetail(Request const& request, std::ostream& out);
 /// Writes the pictures that are asked for, or else the text.

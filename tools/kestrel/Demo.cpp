@@ -88,7 +88,8 @@ void tellOfMore(Story& story) {
 
 }  // namespace
 
-void printDemo(xdksim::Profile const& profile, bool colour, std::ostream& out) {
+void printDemo(bool colour, std::ostream& out) {
+  xdksim::Profile const profile = xdksim::defaultProfile();
   Story story(out, colour);
   tellOfChip(story, profile);
   out << std::flush;  // to be seen also where the bring-up ends the process

@@ -11,15 +11,19 @@ namespace {
 using Entry = XpXdk::TableContextEntry;
 
 /// What lint says of the copies that the table was published with.
-std::vector<xdksim::Finding> findingsOf(Entry const& entry) {
-  std::vector<xdksim::Finding> findings;
+//
+// The signature is for the assertion on a code of no table type.  It is never seen: nothing is
+// published without a type.
+std::vector<Finding> findingsOnCopies(Entry const& entry) {
+  std::vector<Finding> findings;
   U32 const copies = Kestrel::xpTableCliHelper::numCopies(entry);
   for (U32 copy = 0; copy < copies; ++copy) {
     auto const context = Kestrel::xpTableCliHelper::contextOf(
-        entry, static_cast<U8>(copy), "std::vector<Finding> kestrel::findingsOf(Entry const&)");
-    std::vector<xdksim::Doubt> const doubts =
-        std::visit([](auto const& record) { return xdksim::doubtsOf(record); }, context);
-    for (xdksim::Doubt const& doubt : doubts)
+        entry, static_cast<U8>(copy),
+        "std::vector<Finding> kestrel::findingsOnCopies(Entry const&)");
+    std::vector<Doubt> const doubts =
+        std::visit([](auto const& record) { return doubtsOf(record); }, context);
+    for (Doubt const& doubt : doubts)
       findings.push_back({entry.tableId(), std::string(entry.tableName().view()), copy, doubt});
   }
   return findings;
@@ -27,17 +31,17 @@ std::vector<xdksim::Finding> findingsOf(Entry const& entry) {
 
 enum class Outcome : U8 { drawn, asserted };
 
-Outcome outcomeOn(Entry const& entry, xdksim::Report report) {
-  std::vector<xdksim::Finding> const findings = findingsOf(entry);
-  xdksim::Finding const* const stop = xdksim::firstStop(report, findings);
+Outcome outcomeOn(Entry const& entry, Report report) {
+  std::vector<Finding> const findings = findingsOnCopies(entry);
+  Finding const* const stop = firstStop(report, findings);
   if (!stop) return Outcome::drawn;
-  if (stop->doubt.harm == xdksim::Harm::assertion) return Outcome::asserted;
+  if (stop->doubt.harm == Harm::assertion) return Outcome::asserted;
   throw UsageFault(stop->line());
 }
 
 }  // namespace
 
-void refuseWhatStops(xdksim::Report report, XpSystem::ChipStatus const& status,
+void refuseWhatStops(Report report, XpSystem::ChipStatus const& status,
                      std::optional<U32> tableId) {
   if (tableId) {
     outcomeOn(*status.tableContext(*tableId), report);

@@ -2,7 +2,6 @@
 #include "tools/kestrel/Commands.h"
 #include "tools/kestrel/OutputFiles.h"
 #include "tools/kestrel/Refusal.h"
-#include "tools/kestrel/Report.h"
 #include "tools/kestrel/ReportJson.h"
 #include "tools/kestrel/RequestedChip.h"
 #include "tools/kestrel/SramPicture.h"
@@ -25,7 +24,7 @@ class Reported {
   Kestrel::TableCliHelper& reports() { return *reports_; }
 
   /// The reports, once it is sure that this one can be drawn of what is asked for.
-  Kestrel::TableCliHelper& reportsFor(xdksim::Report report, Request const& request) {
+  Kestrel::TableCliHelper& reportsFor(Report report, Request const& request) {
     XpSystem::ChipStatus const& status = *reports_->chipStatus();
     if (request.tableId && !status.tableContext(*request.tableId))
       throw UsageFault("--table: the chip has no table " + std::to_string(*request.tableId) +
@@ -40,6 +39,13 @@ class Reported {
   Kestrel::TableCliHelper::Ptr reports_;
 };
 
+/// A line with id and name for each table.
+void printTables(Kestrel::TableCliHelper& reports, std::ostream& out) {
+  auto const tables = reports.getTableCollection();
+  for (auto at = tables->tableNameIteratorConst(); at; ++at)
+    out << Mox::format("%u %s\n", at.key(), at.value().charPtr());
+}
+
 void writePictures(Request const& request, SramModel const& model) {
   std::vector<OutputFile> files;
   if (request.svg) files.push_back({*request.svg, sramSvg(model)});
@@ -51,7 +57,7 @@ void writePictures(Request const& request, SramModel const& model) {
 
 ExitStatus reportSummary(Request const& request, std::ostream& out) {
   Reported chip(request);
-  Kestrel::TableCliHelper& reports = chip.reportsFor(xdksim::Report::summary, request);
+  Kestrel::TableCliHelper& reports = chip.reportsFor(Report::summary, request);
   if (request.json)
     printSummaryAsJson(reports, request.tableId, out);
   else if (request.tableId)
@@ -63,7 +69,7 @@ ExitStatus reportSummary(Request const& request, std::ostream& out) {
 
 ExitStatus reportDetail(Request const& request, std::ostream& out) {
   Reported chip(request);
-  Kestrel::TableCliHelper& reports = chip.reportsFor(xdksim::Report::detail, request);
+  Kestrel::TableCliHelper& reports = chip.reportsFor(Report::detail, request);
   if (request.json)
     printDetailAsJson(reports, request.tableId, out);
   else if (request.tableId)
@@ -75,7 +81,7 @@ ExitStatus reportDetail(Request const& request, std::ostream& out) {
 
 ExitStatus reportSram(Request const& request, std::ostream& out) {
   Reported chip(request);
-  Kestrel::TableCliHelper& reports = chip.reportsFor(xdksim::Report::sram, request);
+  Kestrel::TableCliHelper& reports = chip.reportsFor(Report::sram, request);
   if (request.svg || request.html)
     writePictures(request, sramModel(*reports.chipStatus()));
   else if (request.json)

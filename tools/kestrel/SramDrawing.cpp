@@ -1,9 +1,9 @@
 // Columns of blocks, with what they need to be read.
 #include "tools/kestrel/SramDrawing.h"
 
-#include "standin/xdk/Ranges.h"
 #include "tools/kestrel/Colours.h"
 #include "tools/kestrel/Markup.h"
+#include "tools/kestrel/Ranges.h"
 
 #include <map>
 
@@ -152,8 +152,8 @@ std::vector<std::string> sramNotes(SramModel const& model) {
     for (xdksim::SramBlock const& block : beyond.blocks) byPool[block.pool].push_back(block.block);
     for (auto const& [pool, blocks] : byPool)
       notes.push_back("pool " + std::to_string(pool) +
-                      (blocks.size() == 1 ? ", block " : ", blocks ") + xdksim::rangesText(blocks) +
-                      ": " + beyond.table.name);
+                      (blocks.size() == 1 ? ", block " : ", blocks ") + rangesText(blocks) + ": " +
+                      beyond.table.name);
   }
   return notes;
 }

@@ -1,7 +1,7 @@
 // Finding the runs.
-#include "standin/xdk/Ranges.h"
+#include "tools/kestrel/Ranges.h"
 
-namespace xdksim {
+namespace kestrel {
 
 std::string rangesText(std::vector<U32> const& numbers) {
   std::string text;
@@ -16,4 +16,4 @@ std::string rangesText(std::vector<U32> const& numbers) {
   return text;
 }
 
-}  // namespace xdksim
+}  // namespace kestrel

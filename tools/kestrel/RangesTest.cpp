@@ -1,9 +1,10 @@
 // How numbers are listed.
-#include "standin/xdk/Ranges.h"
+#include "tools/kestrel/Ranges.h"
 
 #include <gtest/gtest.h>
 
-namespace xdksim {
+namespace kestrel {
+
 namespace {
 
 TEST(RangesTest, NumbersOneByOne) {
@@ -22,4 +23,5 @@ TEST(RangesTest, LargestNumberEndsARun) {
 }
 
 }  // namespace
-}  // namespace xdksim
+
+}  // namespace kestrel

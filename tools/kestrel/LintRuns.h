@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace xdksim {
+namespace kestrel {
 
 /// The field that says where a run lies.
 struct RunField {
@@ -15,9 +15,9 @@ struct RunField {
 };
 
 /// The field from which the start of the run, a run of `context`, comes.
-RunField startField(xpTableContext const& context, SramRun const& run);
+RunField startField(xpTableContext const& context, xdksim::SramRun const& run);
 
 /// The name of the field from which the pool of a run comes.
-std::string poolField(SramRun const& run);
+std::string poolField(xdksim::SramRun const& run);
 
-}  // namespace xdksim
+}  // namespace kestrel

@@ -1,20 +1,20 @@
 // Doubts about one context by itself.
 #include "standin/xdk/ContextClass.h"
-#include "standin/xdk/Lint.h"
-#include "standin/xdk/LintRuns.h"
+#include "tools/kestrel/Lint.h"
+#include "tools/kestrel/LintRuns.h"
 
 #include <algorithm>
-#include <bit>
 #include <iterator>
 
-namespace xdksim {
+namespace kestrel {
+
+using namespace xdksim;
+
 namespace {
 
 using Doubts = std::vector<Doubt>;
 
 std::string text(U32 number) { return std::to_string(number); }
-
-bool fitsRow(U32 width) { return width >= 1 && width <= sramRowWidth; }
 
 void checkWidth(Doubts& doubts, std::string const& field, U32 width) {
   if (!fitsRow(width))
@@ -58,7 +58,7 @@ void checkBlocks(Doubts& doubts, std::string const& field, U32 entries,
 }
 
 void checkHashWidth(Doubts& doubts, xpHashTableContext const& context) {
-  U32 const width = U32{context.keySize} + context.valueSize;
+  U32 const width = entryWidth(context);
   std::string const wide = " are wider than a row, and not 256 and 256";
   if (width == 0)
     doubts.push_back({"keySize", 0, "and a valueSize of 0 are no width of an entry", Harm::noRow});
@@ -101,7 +101,7 @@ Doubts check(xpDirectTableContext const& context) {
 Doubts check(xpNhTableContext const& context) {
   if (context.numEntries == 0) return {};
   Doubts doubts;
-  U32 const ways = static_cast<U32>(std::popcount(context.poolBitmap));
+  U32 const ways = numWays(context);
   if (ways == 0)
     doubts.push_back(
         {"poolBitmap", 0, "has no way for " + text(context.numEntries) + " entries", Harm::noWay});
@@ -138,4 +138,4 @@ std::vector<Doubt> doubtsOf(xpTableContext const& context) {
   return visitContext(context, [](auto const& record) { return check(record); });
 }
 
-}  // namespace xdksim
+}  // namespace kestrel

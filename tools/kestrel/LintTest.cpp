@@ -1,9 +1,12 @@
 // What lint names, in the user's words.
-#include "standin/xdk/Lint.h"
+#include "tools/kestrel/Lint.h"
 
 #include <gtest/gtest.h>
 
-namespace xdksim {
+namespace kestrel {
+
+using namespace xdksim;
+
 namespace {
 
 std::string linesOf(std::vector<Finding> const& findings) {
@@ -13,7 +16,7 @@ std::string linesOf(std::vector<Finding> const& findings) {
 }
 
 /// The profile's lint, a line a finding.
-std::string said(Profile const& profile) { return linesOf(lint(profile)); }
+std::string said(Profile const& profile) { return linesOf(findingsOf(profile)); }
 
 /// A profile of one table, with id 0 and the given copies.
 template <class... Context>
@@ -28,7 +31,7 @@ Profile of(Context... copies) {
 /// What is said about the one copy of table 0, each line without its beginning.
 template <class Context>
 std::string saidOf(Context const& context) {
-  std::string const start = "table 0, copy 0: ";
+  std::string const start = "table 0 (FDB), copy 0: ";
   std::string text = said(of(context));
   for (std::size_t at; (at = text.find(start)) != text.npos;) text.erase(at, start.size());
   return text;
@@ -223,26 +226,27 @@ TEST(LintTest, OtherMemoriesAreBeyondDoubt) {
 }
 
 TEST(LintTest, EachCopyIsLookedAt) {
-  EXPECT_EQ(said(of(direct(8192, 64), direct(8192, 0), direct(1, 64))),
-            "table 0, copy 1: entryWidth: 0 is no width of an entry, which is 1 to 256" + stopsAll +
-                "table 0, copy 2: numOfEntries: 1 entry makes a run of no block, which is 1024 "
-                "rows\n");
+  EXPECT_EQ(
+      said(of(direct(8192, 64), direct(8192, 0), direct(1, 64))),
+      "table 0 (FDB), copy 1: entryWidth: 0 is no width of an entry, which is 1 to 256" + stopsAll +
+          "table 0 (FDB), copy 2: numOfEntries: 1 entry makes a run of no block, which is 1024 "
+          "rows\n");
 }
 
 TEST(LintTest, TableIsLookedAtWhateverItsCopyNumberAndId) {
   Profile profile;
   profile.tables[61] = tableOf(std::vector{direct(8192, 0)}, 0);
   std::get<std::vector<xpDirectTableContext>>(profile.tables[61].contexts)[0].first = 3;
-  EXPECT_EQ(lint(profile).size(), 1u);
+  EXPECT_EQ(findingsOf(profile).size(), 1u);
 }
 
 TEST(LintTest, TableIsInUseByItsFirstCopy) {
   Profile profile = of(direct(8192, 0), direct(8192, 0));
   auto& copies = std::get<std::vector<xpDirectTableContext>>(profile.tables[0].contexts);
   copies[1].first = -1;
-  EXPECT_EQ(lint(profile).size(), 2u);
+  EXPECT_EQ(findingsOf(profile).size(), 2u);
   copies[0].first = -1;
-  EXPECT_EQ(lint(profile).size(), 0u);
+  EXPECT_EQ(findingsOf(profile).size(), 0u);
 }
 
 TEST(LintTest, TableWithoutContextsOrClassIsBeyondDoubt) {
@@ -272,7 +276,8 @@ std::string const third =
     "table 3, copy 0: rowBlkStartId[0]: 0 begins a run that shares blocks 2, 3 of pool 2 with "
     "table 4, undeclared\n";
 std::string const fourth =
-    "table 4, copy 0: rowBlkStartId[0]: 2 begins a run that shares blocks 2, 3 of pool 2 with "
+    "table 4 (IPV4_HOST), copy 0: rowBlkStartId[0]: 2 begins a run that shares blocks 2, 3 of pool "
+    "2 with "
     "table 3, undeclared\n";
 
 TEST(LintTest, SharingMustBeDeclaredByEach) {
@@ -310,7 +315,7 @@ TEST(LintTest, NameStandsInTheLineWhereItIsKnown) {
 /// The harm at which the report stops first on a table with these copies; `none` if on none.
 template <class... Context>
 Harm stopOf(Report report, Context... copies) {
-  std::vector<Finding> const findings = lint(of(copies...));
+  std::vector<Finding> const findings = findingsOf(of(copies...));
   Finding const* const stop = firstStop(report, findings);
   return stop ? stop->doubt.harm : Harm::none;
 }
@@ -359,4 +364,5 @@ TEST(FirstStopTest, OddFiguresStopNothing) {
 }
 
 }  // namespace
-}  // namespace xdksim
+
+}  // namespace kestrel

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-namespace xdksim {
+namespace kestrel {
 
 /// "3, 4, 16 to 18": ascending numbers, with each run of three or more as its first and last.
 std::string rangesText(std::vector<U32> const& numbers);
 
-}  // namespace xdksim
+}  // namespace kestrel

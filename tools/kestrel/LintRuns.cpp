@@ -1,9 +1,12 @@
 // The fields by part.
-#include "standin/xdk/LintRuns.h"
+#include "tools/kestrel/LintRuns.h"
 
 #include "standin/xdk/ContextClass.h"
 
-namespace xdksim {
+namespace kestrel {
+
+using namespace xdksim;
+
 namespace {
 
 std::string element(SramRun const& run) { return '[' + std::to_string(run.number) + ']'; }
@@ -49,4 +52,4 @@ std::string poolField(SramRun const& run) {
   return "nhiTable.poolBitmap";
 }
 
-}  // namespace xdksim
+}  // namespace kestrel
