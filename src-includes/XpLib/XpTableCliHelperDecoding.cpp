@@ -14,14 +14,13 @@ using namespace xpTableCliHelper;
 
 namespace {
 
-constexpr U32 rowsLog2 = 10;     // of a block
 constexpr U32 entriesLog2 = 12;  // of an ISME tile
 
 constexpr char const* updateSignature =
     "void Kestrel::updateTableMemoryPerCopy(Kestrel::TableMemCollection::Ptr&, "
     "XpXdk::TableContextEntry::PtrConst&, U8)";
 
-U32 blocksOf(U32 entries, U32 width) { return rowsOf(entries, width) >> rowsLog2; }
+U32 blocksOf(U32 entries, U32 width) { return rowsOf(entries, width) / rowsPerBlock; }
 
 U8 endOf(U32 start, U32 count) { return static_cast<U8>(start + count - 1); }
 
@@ -46,7 +45,7 @@ void addCopy(Chunks& chunks, xpMatchTableContext const& context) {
 void addCopy(Chunks& chunks, xpHashTableContext const& context) {
   if (tracedAsEmpty(chunks, context.numOfEntries)) return;
   U32 const entriesPerWay = context.numOfEntries / context.numOfWays;
-  U32 const blocksPerWay = rowsOf(entriesPerWay, context, updateSignature) >> rowsLog2;
+  U32 const blocksPerWay = rowsOf(entriesPerWay, context, updateSignature) / rowsPerBlock;
   for (U32 way = 0; way < context.numOfWays; ++way)
     addRun(chunks, context.poolId[way], context.rowBlkStartId[way], blocksPerWay);
 }
@@ -92,6 +91,13 @@ void readCopy(Chunks& chunks, XpXdk::TableContextEntry const& entry, U32 copy) {
              contextOf(entry, static_cast<U8>(copy), updateSignature));
 }
 
+template <class Iterator>
+S32 sumOfRows(Iterator chunk) {
+  U32 rows = 0;
+  for (; chunk; ++chunk) rows += chunk.key().numRows();
+  return static_cast<S32>(rows);
+}
+
 }  // namespace
 
 void updateTableMemoryPerCopy(TableMemCollection::Ptr& memory,
@@ -102,6 +108,8 @@ void updateTableMemoryPerCopy(TableMemCollection::Ptr& memory,
   for (TableTcamChunk const& chunk : chunks.tcam) memory->tcamChunkIs(chunk, true);
   for (TableIsmeChunk const& chunk : chunks.isme) memory->ismeChunkIs(chunk, true);
 }
+
+namespace xpTableCliHelper {
 
 Chunks tableChunks(XpXdk::TableContextEntry const& entry) {
   Chunks chunks{entry.tableId(), {}, {}, {}};
@@ -117,5 +125,12 @@ TableMemCollection::Ptr tableMemory(XpXdk::TableContextEntry::PtrConst& entry) {
     updateTableMemoryPerCopy(memory, entry, static_cast<U8>(copy));
   return memory;
 }
+
+MemoryRows numRows(TableMemCollection const& memory) {
+  return {sumOfRows(memory.sramChunkIteratorConst()), sumOfRows(memory.tcamChunkIteratorConst()),
+          sumOfRows(memory.ismeChunkIteratorConst())};
+}
+
+}  // namespace xpTableCliHelper
 
 }  // namespace Kestrel

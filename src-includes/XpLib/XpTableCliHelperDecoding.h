@@ -1,8 +1,7 @@
 // From a table's contexts to the memory that the table takes.
 //
-// An SRAM row is 256 bits wide and holds as many whole entries as fit; a block is 1,024 rows, a
-// tile 8 blocks.  Only whole blocks count: every division drops its remainder, and a run of less
-// than a block ends one below its start.  Pools, starts and ends are taken modulo 256.
+// Only whole blocks count: every division drops its remainder, and a run of less than a block ends
+// one below its start.  Pools, starts and ends are taken modulo 256.
 #pragma once
 
 #include "XpLib/XpTableCliHelper.h"
@@ -22,6 +21,8 @@ namespace Kestrel {
 void updateTableMemoryPerCopy(TableMemCollection::Ptr& memory,
                               XpXdk::TableContextEntry::PtrConst& entry, U8 copy);
 
+namespace xpTableCliHelper {
+
 /// Runs of memory as the contexts of a table tell them: in their order, and as often as they do.
 struct Chunks {
   U32 tableId;
@@ -36,5 +37,17 @@ Chunks tableChunks(XpXdk::TableContextEntry const& entry);
 
 /// The memory of all copies of the table, which are at most 256.
 TableMemCollection::Ptr tableMemory(XpXdk::TableContextEntry::PtrConst& entry);
+
+/// Rows of each kind of memory, summed in 32 bits and signed, as they are printed.
+struct MemoryRows {
+  S32 sram;
+  S32 tcam;
+  S32 isme;
+};
+
+/// The rows that the chunks of the memory stand for.
+MemoryRows numRows(TableMemCollection const& memory);
+
+}  // namespace xpTableCliHelper
 
 }  // namespace Kestrel

@@ -16,6 +16,11 @@ constexpr char const* signature =
     "Mox::String Kestrel::TableCliHelper::displaySingleDynamicTableDetail(U32)";
 constexpr char const* emptyLine = "    (empty)\n";
 
+// Of the next-hop table within an LPM table.
+constexpr U32 tileEntries = 16384;
+constexpr U32 tileRows = blocksPerTile * rowsPerBlock;
+constexpr U32 nhiWidth = 128;  // bits of an entry
+
 Mox::String8 wayLine(U32 way, U32 poolId, U32 rowBlkStartId, U32 numOfRows) {
   return Mox::format("      Way %u: poolId %u rowBlkStartId %u numOfRows %u\n", way, poolId,
                      rowBlkStartId, numOfRows);
@@ -86,7 +91,7 @@ Mox::String8 tileLines(xpLpmNhiTable const& nhiTable) {
     for (U32 tile = 0; tile < numTiles; ++tile)
       if (isSet(nhiTable.tileBitmap[pool], tile))
         text += Mox::format("        Tile %u: numEntries %u numRows %u poolId %u tileId %u\n",
-                            count++, 16384u, 8192u, pool, tile);
+                            count++, tileEntries, tileRows, pool, tile);
   }
   return text;
 }
@@ -105,7 +110,8 @@ Mox::String8 lines(xpLpmTableContext const& context) {
   xpLpmNhiTable const& nhiTable = context.nhiTable;
   text += Mox::format(
       "      NhiTable: numEntries %u numRows %u entryWidth %u pairPerEntry %u nhWidth %u\n",
-      nhiTable.numEntries, nhiTable.numEntries >> 1, 128u, nhiTable.pairPerEntry, nhiTable.nhWidth);
+      nhiTable.numEntries, nhiTable.numEntries >> 1, nhiWidth, nhiTable.pairPerEntry,
+      nhiTable.nhWidth);
   return text + tileLines(nhiTable);
 }
 

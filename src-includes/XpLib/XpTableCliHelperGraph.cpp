@@ -6,7 +6,6 @@
 #include "XpLib/XpTableCliHelperSramMap.h"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace Kestrel {
@@ -15,7 +14,6 @@ using namespace xpTableCliHelper;
 
 namespace {
 
-constexpr U32 tilesOfPool[numPools] = {6, 6, 6, 6, 8, 8, 8, 8};
 constexpr U32 cellWidth = 8;
 constexpr char const* blanks = "        ";
 
@@ -38,9 +36,8 @@ class Legend {
 
  private:
   char nextLetter() const {
-    constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     U32 const groups = legend_->legendCount();
-    return groups < alphabet.size() ? alphabet[groups] : '?';
+    return groups < groupLetters.size() ? groupLetters[groups] : '?';
   }
 
   SramMap const& map_;         // outlives this
@@ -65,7 +62,7 @@ void drawGrid(std::string& text, SramMap const& map, Legend& legend) {
   for (U32 block = 0; block < blocksPerPool; ++block) {
     drawMargin(text, block);
     for (U32 pool = 0; pool < numPools; ++pool) {
-      bool const isThere = block / blocksPerTile < tilesOfPool[pool];
+      bool const isThere = block < blocksOfPool(pool);
       text += "  ";
       text.append(cellWidth, isThere ? legend.letterOf(map.groupAt(pool, block)) : ' ');
     }

@@ -1,4 +1,6 @@
 // How tables lie in the memories: the sizes of these, and the rows that entries take.
+//
+// An SRAM row holds as many whole entries as fit.
 #pragma once
 
 #include "Mox/Integers.h"
@@ -6,11 +8,19 @@
 
 namespace Kestrel::xpTableCliHelper {
 
-inline constexpr U32 rowWidth = 256;     ///< bits of an SRAM row
-inline constexpr U32 numPools = 8;       ///< of the SRAM
-inline constexpr U32 numTiles = 8;       ///< of a pool at most, and in every bitmap of tiles
-inline constexpr U32 blocksPerTile = 8;  ///< row blocks
-inline constexpr U32 blocksPerPool = numTiles * blocksPerTile;
+inline constexpr U32 rowWidth = 256;  ///< bits of an SRAM row
+inline constexpr U32 numPools = 8;    ///< of the SRAM
+inline constexpr U32 numTiles = 8;    ///< of a pool at most, and in every bitmap of tiles
+inline constexpr U32 rowsPerBlock = 1024;
+inline constexpr U32 blocksPerTile = 8;                         ///< row blocks
+inline constexpr U32 blocksPerPool = numTiles * blocksPerTile;  ///< at most
+/// Tiles that the chip has of each pool.
+inline constexpr U32 tilesOfPool[numPools] = {6, 6, 6, 6, 8, 8, 8, 8};
+
+/// Row blocks that the chip has of a pool; none where there is no such pool.
+constexpr U32 blocksOfPool(U32 pool) {
+  return pool < numPools ? tilesOfPool[pool] * blocksPerTile : 0;
+}
 
 inline bool isSet(U32 bitmap, U32 bit) { return (bitmap >> bit & 1) != 0; }
 

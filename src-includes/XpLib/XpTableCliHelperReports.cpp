@@ -8,17 +8,6 @@ namespace Kestrel {
 
 using namespace xpTableCliHelper;
 
-namespace {
-
-template <class Iterator>
-U32 numRows(Iterator chunk) {
-  U32 rows = 0;
-  for (; chunk; ++chunk) rows += chunk.key().numRows();
-  return rows;
-}
-
-}  // namespace
-
 TableCollection::Ptr TableCliHelper::getTableCollection() const {
   traceReport("getTableCollection");
   TableCollection::Ptr const tables = TableCollection::TableCollectionIs();
@@ -39,14 +28,10 @@ Mox::String8 TableCliHelper::displayAllDynamicTablesSummary() {
 Mox::String8 TableCliHelper::displaySingleDynamicTableSummary(U32 tableId) {
   traceTableReport("displaySingleDynamicTableSummary", tableId);
   XpXdk::TableContextEntry::PtrConst entry = chipStatus_->tableContext(tableId);
-  TableMemCollection::Ptr const memory = tableMemory(entry);
-  // Signed, as the columns are.
-  auto const sram = static_cast<S32>(numRows(memory->sramChunkIteratorConst()));
-  auto const tcam = static_cast<S32>(numRows(memory->tcamChunkIteratorConst()));
-  auto const isme = static_cast<S32>(numRows(memory->ismeChunkIteratorConst()));
+  MemoryRows const rows = numRows(*tableMemory(entry));
   return Mox::format("%15s %6s %7d %8d %8d %8d\n", entry->tableName().charPtr(),
                      tableTypeToString(entry->tableType()), static_cast<S32>(entry->tblCopyNum()),
-                     sram, tcam, isme);
+                     rows.sram, rows.tcam, rows.isme);
 }
 
 }  // namespace Kestrel

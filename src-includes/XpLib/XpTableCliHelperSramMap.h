@@ -5,9 +5,14 @@
 #include "XpLib/XpTableCliHelperMemory.h"
 #include "XpSystem/ChipStatus.h"
 
+#include <string_view>
 #include <vector>
 
 namespace Kestrel::xpTableCliHelper {
+
+/// The letters of the groups, in the order in which a drawing meets them.
+inline constexpr std::string_view groupLetters =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 
 /// The groups of tables in pools 0 to 7, blocks 0 to 63, as they stand when it is made.
 ///

@@ -11,6 +11,7 @@
 
 namespace kestrel {
 
+using namespace Kestrel::xpTableCliHelper;
 using Json = nlohmann::ordered_json;
 
 namespace {
@@ -37,21 +38,13 @@ Json headOf(EntryPtr const& entry) {
           {"type", Kestrel::tableTypeToString(entry->tableType())}};
 }
 
-// The sum is in 32 bits, and signed where it is printed.
-template <class At>
-S32 rowsOf(At at) {
-  U32 rows = 0;
-  for (; at; ++at) rows += at.key().numRows();
-  return static_cast<S32>(rows);
-}
-
 Json summaryOf(EntryPtr entry) {
-  Kestrel::TableMemCollection::Ptr const memory = Kestrel::tableMemory(entry);
+  auto const [sram, tcam, isme] = numRows(*tableMemory(entry));
   Json json = headOf(entry);
   json["copies"] = entry->tblCopyNum();
-  json["sram"] = rowsOf(memory->sramChunkIteratorConst());
-  json["tcam"] = rowsOf(memory->tcamChunkIteratorConst());
-  json["isme"] = rowsOf(memory->ismeChunkIteratorConst());
+  json["sram"] = sram;
+  json["tcam"] = tcam;
+  json["isme"] = isme;
   return json;
 }
 
@@ -65,7 +58,7 @@ Json detailOf(Kestrel::TableCliHelper& reports, EntryPtr const& entry) {
 Json poolOf(SramModel const& model, SramPool const& pool) {
   Json tiles = Json::array();
   for (std::size_t block = 0; block < pool.blocks.size(); ++block) {
-    if (block % xdksim::sramTileBlocks == 0) tiles.push_back(Json::array());
+    if (block % blocksPerTile == 0) tiles.push_back(Json::array());
     auto const group = pool.blocks[block];
     tiles.back().push_back(group ? Json(model.groups[*group].letter) : Json());
   }
@@ -83,8 +76,8 @@ Json groupOf(SramGroup const& group) {
 
 Json beyondOf(SramBeyond const& beyond) {
   Json blocks = Json::array();
-  for (xdksim::SramBlock const& block : beyond.blocks)
-    blocks.push_back({{"pool", block.pool}, {"block", block.block}});
+  for (auto const& [pool, inPool] : beyond.blocks)
+    for (U32 block : inPool) blocks.push_back({{"pool", pool}, {"block", block}});
   Json json = tableOf(beyond.table);
   json["blocks"] = blocks;
   return json;
@@ -121,8 +114,8 @@ void printTablesAsJson(Kestrel::TableCliHelper& reports, std::ostream& out) {
 
 void printSramAsJson(SramModel const& model, std::ostream& out) {
   auto const pool = [&model](SramPool const& one) { return poolOf(model, one); };
-  print({{"rowsPerBlock", 1024},
-         {"blocksPerTile", xdksim::sramTileBlocks},
+  print({{"rowsPerBlock", rowsPerBlock},
+         {"blocksPerTile", blocksPerTile},
          {"blocks", model.blocks()},
          {"free", model.free()},
          {"pools", listOf(model.pools, pool)},

@@ -5,11 +5,10 @@
 #include "tools/kestrel/Markup.h"
 #include "tools/kestrel/Ranges.h"
 
-#include <map>
-
 namespace kestrel {
 
 using namespace sramDrawing;
+using Kestrel::xpTableCliHelper::blocksPerTile;
 
 // Blocks leave one pixel to the next, which the lines between tiles fill.
 char const* const sramStyle = R"(
@@ -40,13 +39,9 @@ constexpr U32 gap = 10;  // between two pools
 constexpr U32 blockWidth = poolStep - gap;
 constexpr U32 blockHeight = blockStep - 1;
 
-std::string text(char const* style, U32 x, U32 y, std::string const& content) {
-  return element("text", {{"class", style}, {"x", x}, {"y", y}}, escaped(content));
-}
-
 std::string placeOf(U32 pool, U32 block) {
-  return "Pool " + std::to_string(pool) + ", tile " +
-         std::to_string(block / xdksim::sramTileBlocks) + ", block " + std::to_string(block);
+  return "Pool " + std::to_string(pool) + ", tile " + std::to_string(block / blocksPerTile) +
+         ", block " + std::to_string(block);
 }
 
 std::string letter(std::string const& letter, Colour const& colour, U32 x, U32 y) {
@@ -86,8 +81,7 @@ std::string takenBlock(SramModel const& model, U32 pool, U32 block, U32 x, U32 y
 std::string tileLines(SramPool const& pool, U32 x) {
   std::string lines;
   for (U32 tile = 1; tile < pool.tiles(); ++tile) {
-    std::string const y =
-        std::to_string(top + tile * xdksim::sramTileBlocks * blockStep - 1) + ".5";
+    std::string const y = std::to_string(top + tile * blocksPerTile * blockStep - 1) + ".5";
     lines += element("line",
                      {{"class", "line"}, {"x1", x}, {"x2", x + blockWidth}, {"y1", y}, {"y2", y}});
   }
@@ -118,18 +112,21 @@ std::string poolColumn(SramModel const& model, SramPool const& pool) {
 std::string tileNumbers(U32 tiles) {
   std::string numbers;
   for (U32 tile = 0; tile < tiles; ++tile) {
-    U32 const first = tile * xdksim::sramTileBlocks;
+    U32 const first = tile * blocksPerTile;
     U32 const y = top + first * blockStep;
-    numbers +=
-        text("tile", 8, y + 11, "Tile " + std::to_string(tile)) +
-        text("note", 8, y + 25,
-             std::to_string(first) + " to " + std::to_string(first + xdksim::sramTileBlocks - 1)) +
-        '\n';
+    numbers += text("tile", 8, y + 11, "Tile " + std::to_string(tile)) +
+               text("note", 8, y + 25,
+                    std::to_string(first) + " to " + std::to_string(first + blocksPerTile - 1)) +
+               '\n';
   }
   return numbers;
 }
 
 }  // namespace
+
+std::string sramDrawing::text(char const* style, U32 x, U32 y, std::string const& content) {
+  return element("text", {{"class", style}, {"x", x}, {"y", y}}, escaped(content));
+}
 
 std::string sramColumns(SramModel const& model) {
   std::string columns = tileNumbers(model.pools.back().tiles());
@@ -147,14 +144,11 @@ std::string sramSwatch(SramModel const& model, std::size_t group, U32 width, U32
 
 std::vector<std::string> sramNotes(SramModel const& model) {
   std::vector<std::string> notes;
-  for (SramBeyond const& beyond : model.beyond) {
-    std::map<U32, std::vector<U32>> byPool;
-    for (xdksim::SramBlock const& block : beyond.blocks) byPool[block.pool].push_back(block.block);
-    for (auto const& [pool, blocks] : byPool)
+  for (SramBeyond const& beyond : model.beyond)
+    for (auto const& [pool, blocks] : beyond.blocks)
       notes.push_back("pool " + std::to_string(pool) +
-                      (blocks.size() == 1 ? ", block " : ", blocks ") + rangesText(blocks) + ": " +
-                      beyond.table.name);
-  }
+                      (blocks.size() == 1 ? ", block " : ", blocks ") +
+                      rangesText({blocks.begin(), blocks.end()}) + ": " + beyond.table.name);
   return notes;
 }
 

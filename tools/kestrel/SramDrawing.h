@@ -12,8 +12,14 @@ constexpr U32 left = 72;       ///< margin with the numbers of the tiles
 constexpr U32 top = 52;        ///< margin with the numbers of the pools
 constexpr U32 poolStep = 92;   ///< from column to column
 constexpr U32 blockStep = 13;  ///< from block to block
-constexpr U32 width = left + xdksim::sramPools * poolStep;
-constexpr U32 height = top + 64 * blockStep + 8;
+constexpr U32 width = left + Kestrel::xpTableCliHelper::numPools * poolStep;
+constexpr U32 height = top + Kestrel::xpTableCliHelper::blocksPerPool * blockStep + 8;
+
+/// Ahead of the notes.
+constexpr char const* notesHead = "Not drawn, as the chip has no such blocks:";
+
+/// A line of text, which is `content` as it is meant, in the class `style`.
+std::string text(char const* style, U32 x, U32 y, std::string const& content);
 
 }  // namespace sramDrawing
 

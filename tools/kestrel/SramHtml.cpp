@@ -70,8 +70,7 @@ std::string notes(std::vector<std::string> const& lines) {
   if (lines.empty()) return "";
   std::string items;
   for (std::string const& line : lines) items += element("li", {}, escaped(line)) + '\n';
-  return element("p", {}, "Not drawn, as the chip has no such blocks:") +
-         element("ul", {{"class", "beyond"}}, items) + '\n';
+  return element("p", {}, notesHead) + element("ul", {{"class", "beyond"}}, items) + '\n';
 }
 
 }  // namespace

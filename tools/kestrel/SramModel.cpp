@@ -5,16 +5,13 @@
 #include "XpLib/XpTableCliHelperSramMap.h"
 
 #include <algorithm>
-#include <map>
 #include <numeric>
-#include <set>
 
 namespace kestrel {
 
-namespace {
+using namespace Kestrel::xpTableCliHelper;
 
-using Kestrel::xpTableCliHelper::SramMap;
-using EntryPtr = XpXdk::TableContextEntry::PtrConst;
+namespace {
 
 SramTable tableOf(XpXdk::TableContextEntry const& entry) {
   return {entry.tableId(), std::string(entry.tableName().view())};
@@ -31,7 +28,7 @@ std::vector<SramTable> tablesOf(Kestrel::SharedTableGroup const& group,
 void drawPools(SramModel& model, XpSystem::ChipStatus const& status) {
   SramMap const map(status);
   std::map<U32, std::size_t> indices;  // by the map's numbers
-  for (U32 block = 0; block < Kestrel::xpTableCliHelper::blocksPerPool; ++block)
+  for (U32 block = 0; block < blocksPerPool; ++block)
     for (SramPool& pool : model.pools) {
       U32 const group = map.groupAt(pool.pool, block);
       if (group == 0 || block >= pool.blocks.size()) continue;
@@ -44,14 +41,13 @@ void drawPools(SramModel& model, XpSystem::ChipStatus const& status) {
 }
 
 /// What of the table's memory lies beyond the pools.
-std::set<xdksim::SramBlock> blocksBeyond(EntryPtr entry) {
-  std::set<xdksim::SramBlock> beyond;
-  Kestrel::TableMemCollection::Ptr const memory = Kestrel::tableMemory(entry);
-  for (auto at = memory->sramChunkIteratorConst(); at; ++at) {
-    U32 const pool = at.key().poolId();
-    U32 const limit = xdksim::sramPoolBlocks(pool);
-    for (U32 block = at.key().startRowBlkId(); block <= at.key().endRowBlkId(); ++block)
-      if (block >= limit) beyond.insert({pool, block});
+SramBeyond beyondOf(XpXdk::TableContextEntry const& entry) {
+  SramBeyond beyond{tableOf(entry), {}};
+  Chunks const chunks = tableChunks(entry);
+  for (Kestrel::TableSramChunk const& chunk : chunks.sram) {
+    U32 const limit = blocksOfPool(chunk.poolId());
+    for (U32 block = chunk.startRowBlkId(); block <= chunk.endRowBlkId(); ++block)
+      if (block >= limit) beyond.blocks[chunk.poolId()].insert(block);
   }
   return beyond;
 }
@@ -64,7 +60,7 @@ std::string SramGroup::names() const {
   return text;
 }
 
-U32 SramPool::tiles() const { return static_cast<U32>(blocks.size() / xdksim::sramTileBlocks); }
+U32 SramPool::tiles() const { return static_cast<U32>(blocks.size() / blocksPerTile); }
 
 U32 SramPool::free() const {
   return static_cast<U32>(
@@ -84,23 +80,22 @@ U32 SramModel::free() const {
 
 // 52 single letters, and behind them all pairs: more than there are blocks.
 std::string sramLetter(std::size_t index) {
-  constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-  if (index < alphabet.size()) return {alphabet[index]};
-  index -= alphabet.size();
-  return {alphabet[index / alphabet.size()], alphabet[index % alphabet.size()]};
+  std::size_t const letters = groupLetters.size();
+  if (index < letters) return {groupLetters[index]};
+  index -= letters;
+  return {groupLetters[index / letters], groupLetters[index % letters]};
 }
 
 SramModel sramModel(XpSystem::ChipStatus const& status) {
   SramModel model;
-  for (U32 pool = 0; pool < xdksim::sramPools; ++pool) {
+  for (U32 pool = 0; pool < numPools; ++pool) {
     model.pools[pool].pool = pool;
-    model.pools[pool].blocks.resize(xdksim::sramPoolBlocks(pool));
+    model.pools[pool].blocks.resize(blocksOfPool(pool));
   }
   drawPools(model, status);
   for (auto at = status.tableContextIteratorConst(); at; ++at) {
-    std::set<xdksim::SramBlock> const beyond = blocksBeyond(at.value());
-    if (!beyond.empty())
-      model.beyond.push_back({tableOf(*at.value()), {beyond.begin(), beyond.end()}});
+    SramBeyond beyond = beyondOf(*at.value());
+    if (!beyond.blocks.empty()) model.beyond.push_back(std::move(beyond));
   }
   return model;
 }

@@ -1,11 +1,13 @@
 // Which tables lie on which block of the SRAM, as the pictures and programs want it.
 #pragma once
 
+#include "XpLib/XpTableCliHelperMemory.h"
 #include "XpSystem/ChipStatus.h"
-#include "standin/xdk/Placement.h"
 
 #include <array>
+#include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -32,9 +34,10 @@ struct SramGroup {
 /// Blocks of a table that the chip lacks.
 struct SramBeyond {
   SramTable table;
-  std::vector<xdksim::SramBlock> blocks;  ///< ascending
+  std::map<U32, std::set<U32>> blocks;  ///< by pool
 };
 
+/// A pool of the chip.
 struct SramPool {
   U32 pool;
   std::vector<std::optional<std::size_t>> blocks;  ///< index of the group; none where free
@@ -45,7 +48,7 @@ struct SramPool {
 
 /// The SRAM of one chip.
 struct SramModel {
-  std::array<SramPool, xdksim::sramPools> pools;
+  std::array<SramPool, Kestrel::xpTableCliHelper::numPools> pools;
   std::vector<SramGroup> groups;   ///< by letter
   std::vector<SramBeyond> beyond;  ///< in the order of the tables
 

@@ -11,6 +11,7 @@ namespace {
 
 using Kestrel::xpTableCliHelper::blocks;
 using Kestrel::xpTableCliHelper::EntryPtr;
+using BlocksByPool = std::map<U32, std::set<U32>>;
 
 /// The model of a chip whose tables are named "T<id>".
 class Chip {
@@ -84,9 +85,9 @@ TEST(SramModelTest, BlocksBeyondAPoolAreKeptApart) {
   EXPECT_EQ(model.groups[1].blocks, 1u);
   ASSERT_EQ(model.beyond.size(), 2u);
   EXPECT_EQ(model.beyond[0].table, (SramTable{2, "T2"}));
-  EXPECT_EQ(model.beyond[0].blocks, (std::vector<xdksim::SramBlock>{{0, 49}}));
+  EXPECT_EQ(model.beyond[0].blocks, (BlocksByPool{{0, {49}}}));
   EXPECT_EQ(model.beyond[1].table, (SramTable{1, "T1"}));
-  EXPECT_EQ(model.beyond[1].blocks, (std::vector<xdksim::SramBlock>{{0, 48}, {9, 3}}));
+  EXPECT_EQ(model.beyond[1].blocks, (BlocksByPool{{0, {48}}, {9, {3}}}));
 }
 
 TEST(SramModelTest, RunThatEndsBelowItsStartTakesNothing) {
@@ -106,7 +107,7 @@ TEST(SramModelTest, LettersNeverEnd) {
 TEST(SramModelTest, EveryBlockMayHaveAGroupOfItsOwn) {
   Chip chip;
   for (U32 pool = 0; pool < 8; ++pool)
-    for (U32 block = 0; block < xdksim::sramPoolBlocks(pool); ++block)
+    for (U32 block = 0; block < Kestrel::xpTableCliHelper::blocksOfPool(pool); ++block)
       chip.with(64 * pool + block, {blocks(pool, block, 1)});
   SramModel const model = chip.model();
   ASSERT_EQ(model.groups.size(), 448u);

@@ -21,10 +21,6 @@ std::string moved(U32 x, U32 y, std::string const& content, char const* style = 
                  content);
 }
 
-std::string text(char const* style, U32 x, U32 y, std::string const& content) {
-  return element("text", {{"class", style}, {"x", x}, {"y", y}}, escaped(content));
-}
-
 std::string legendLine(SramModel const& model, std::size_t group) {
   return sramSwatch(model, group, 26, 13) +
          text("", 34, 11,
@@ -59,7 +55,7 @@ std::string legend(SramModel const& model, Legend const& places) {
 std::string notes(std::vector<std::string> const& lines) {
   if (lines.empty()) return "";
   U32 y = height + 20;
-  std::string result = text("", 8, y, "Not drawn, as the chip has no such blocks:");
+  std::string result = text("", 8, y, notesHead);
   for (std::string const& line : lines) result += text("beyond", 20, y += lineStep, line) + '\n';
   return result;
 }
