@@ -3,8 +3,6 @@
 
 #include "tests/tool/ToolRun.h"
 
-#include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
@@ -45,11 +43,6 @@ static void from_json(Json const& json, Picture& picture) {
 
 namespace {
 
-std::string read(std::string const& path) {
-  std::ifstream in(path);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-
 void replace(std::string& text, std::string const& what, std::string const& with) {
   for (std::size_t at = 0; (at = text.find(what, at)) != text.npos; at += with.size())
     text.replace(at, what.size(), with);
@@ -57,7 +50,7 @@ void replace(std::string& text, std::string const& what, std::string const& with
 
 /// The document with a script at its end, and one at its beginning that notes the faults of others.
 std::string withScripts(std::string document, bool isPage) {
-  std::string const measure = read(KESTREL_SOURCE_DIR "/tests/browser/Measure.js");
+  std::string const measure = tool::contentOf(KESTREL_SOURCE_DIR "/tests/browser/Measure.js");
   std::string const note =
       "<script>window.faults = []; "
       "addEventListener('error', event => window.faults.push(String(event.message)));</script>";
@@ -115,9 +108,9 @@ Picture render(std::string const& option, std::string const& command, Surroundin
   tool::Outcome const drawn =
       tool::kestrel("report sram " + option + ' ' + file + ' ' + command, folder.path());
   if (drawn.status != 0) throw std::runtime_error(drawn.err);
-  folder.has(file, withScripts(read(folder.path() + '/' + file), isPage));
+  folder.has(file, withScripts(tool::contentOf(folder.path() + '/' + file), isPage));
   std::string const document = rendered(folder, file, surroundings);
-  return measuredIn(document, read(folder.path() + "/complaints")).get<Picture>();
+  return measuredIn(document, tool::contentOf(folder.path() + "/complaints")).get<Picture>();
 }
 
 }  // namespace browser

@@ -1,6 +1,8 @@
 // Renders a picture of the tool in a real browser and measures what the browser made of it.
 #pragma once
 
+#include "Mox/Integers.h"
+
 #include <array>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
@@ -19,8 +21,9 @@ struct Box {
 
 using Colour = std::array<double, 3>;  ///< red, green and blue, 0 to 255
 
+/// A block of the map.
 struct Block {
-  unsigned pool, block;
+  U32 pool, block;
   Box box;
   Colour fill;
   std::string letter;  ///< empty on a free one
@@ -29,6 +32,7 @@ struct Block {
   bool isSeen;  ///< the pointer in its middle meets it and nothing above it
 };
 
+/// What the legend says of one set of tables.
 struct LegendLine {
   std::string letter;
   std::string text;  ///< without the letter
@@ -51,7 +55,7 @@ struct Picture {
   std::vector<Label> notes;  ///< what stands small beside pools and tiles
   std::vector<std::string> beyond;
   Colour paper, ink;
-  unsigned fetched;                 ///< what the page has asked a network or a disk for
+  U32 fetched;                      ///< what the page has asked a network or a disk for
   std::vector<std::string> faults;  ///< of its scripts, and of its form
   std::vector<std::string> lit;     ///< "pool:block" of the blocks that stay when the pointer
                                     ///< comes to the first line of the legend

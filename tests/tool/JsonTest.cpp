@@ -25,13 +25,6 @@ class JsonTest : public testing::TestWithParam<char const*> {
   }
 };
 
-std::vector<std::string> linesOf(std::string const& text) {
-  std::istringstream in(text);
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(in, line);) lines.push_back(line);
-  return lines;
-}
-
 /// The values of an object as words, in their order.
 std::vector<std::string> valuesOf(Json const& object) {
   std::vector<std::string> values;

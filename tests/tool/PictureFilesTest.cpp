@@ -3,9 +3,7 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 
 namespace tool {
 
@@ -14,10 +12,7 @@ namespace {
 class PictureFilesTest : public testing::Test {
  protected:
   Outcome in(std::string const& command) const { return kestrel(command, folder_.path()); }
-  std::string file(std::string const& name) const {
-    std::ifstream in(folder_.path() + '/' + name);
-    return {std::istreambuf_iterator<char>(in), {}};
-  }
+  std::string file(std::string const& name) const { return contentOf(folder_.path() + '/' + name); }
   /// The files of the folder, in order.
   std::vector<std::string> files() const {
     std::vector<std::string> names;

@@ -5,7 +5,9 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <iomanip>
+#include <iterator>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -41,6 +43,19 @@ inline std::vector<std::string> words(std::string const& text) {
   std::vector<std::string> result;
   for (std::string word; in >> std::quoted(word);) result.push_back(word);
   return result;
+}
+
+inline std::vector<std::string> linesOf(std::string const& text) {
+  std::istringstream in(text);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  return lines;
+}
+
+/// What the file holds, byte by byte; nothing where it can't be read.
+inline std::string contentOf(std::string const& path) {
+  std::ifstream in(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
 }
 
 /// The child's side: becomes the tool, in `folder`, or ends with 127.

@@ -27,18 +27,6 @@ constexpr std::string_view prompt = "$ kestrel ";
 
 using Lines = std::vector<std::string>;
 
-Lines linesOf(std::string const& text) {
-  std::istringstream in(text);
-  Lines lines;
-  for (std::string line; std::getline(in, line);) lines.push_back(line);
-  return lines;
-}
-
-std::string read(std::string const& path) {
-  std::ifstream in(path);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-
 /// `line` with "N" for the number between `before` and `behind`.
 std::string strike(std::string line, std::string_view before, std::string_view behind) {
   for (std::size_t at = line.find(before); at != line.npos; at = line.find(before, at + 1)) {
@@ -93,7 +81,7 @@ class TranscriptTest : public testing::TestWithParam<std::string> {};
 
 TEST_P(TranscriptTest, SaysTheSameAgain) {
   std::string const path = under("transcripts/" + GetParam() + ".txt");
-  std::string const expected = read(path);
+  std::string const expected = contentOf(path);
   Lines const commands = commandsIn(expected);
   ASSERT_FALSE(commands.empty()) << path;
   std::string const session = sessionOf(commands);

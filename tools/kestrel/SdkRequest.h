@@ -6,6 +6,7 @@
 
 namespace kestrel {
 
+/// Faults and strict mode.
 struct SdkRequest {
   std::vector<std::string> faults{};  ///< rules that can be read
   bool strict = false;                ///< whether misuse ends the process

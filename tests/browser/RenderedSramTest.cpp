@@ -19,10 +19,10 @@ nlohmann::json model(std::string const& command = "") {
 }
 
 /// "A" or "" for each block that the model has, by pool and block.
-std::map<std::pair<unsigned, unsigned>, std::string> lettersOf(nlohmann::json const& model) {
-  std::map<std::pair<unsigned, unsigned>, std::string> letters;
+std::map<std::pair<U32, U32>, std::string> lettersOf(nlohmann::json const& model) {
+  std::map<std::pair<U32, U32>, std::string> letters;
   for (auto const& pool : model.at("pools")) {
-    unsigned block = 0;
+    U32 block = 0;
     for (auto const& tile : pool.at("tiles"))
       for (auto const& letter : tile)
         letters[{pool.at("pool"), block++}] = letter.is_null() ? "" : letter.get<std::string>();
@@ -33,7 +33,7 @@ std::map<std::pair<unsigned, unsigned>, std::string> lettersOf(nlohmann::json co
 std::string const binary = "--profile " KESTREL_SOURCE_DIR "/tests/tool/profiles/binary.json";
 
 /// Both forms of the picture of the built-in chip, rendered once.
-class SramPictureTest : public testing::TestWithParam<char const*> {
+class RenderedSramTest : public testing::TestWithParam<char const*> {
  protected:
   static Picture const& picture() {
     static std::map<std::string, Picture> pictures;
@@ -43,27 +43,27 @@ class SramPictureTest : public testing::TestWithParam<char const*> {
   }
 };
 
-TEST_P(SramPictureTest, EveryBlockOfTheChipIsThereOnce) {
+TEST_P(RenderedSramTest, EveryBlockOfTheChipIsThereOnce) {
   auto const expected = lettersOf(model());
   EXPECT_EQ(expected.size(), 448u);
   EXPECT_EQ(picture().blocks.size(), 448u);
-  std::map<std::pair<unsigned, unsigned>, std::string> found;
+  std::map<std::pair<U32, U32>, std::string> found;
   for (Block const& block : picture().blocks) found[{block.pool, block.block}] = block.letter;
   EXPECT_EQ(found, expected);
 }
 
-TEST_P(SramPictureTest, PoolsAreColumnsInTheirOrder) {
-  std::map<unsigned, double> left;
+TEST_P(RenderedSramTest, PoolsAreColumnsInTheirOrder) {
+  std::map<U32, double> left;
   for (Block const& block : picture().blocks) {
     auto const [at, isNew] = left.emplace(block.pool, block.box.x);
     EXPECT_DOUBLE_EQ(block.box.x, at->second) << block.hover;
   }
   ASSERT_EQ(left.size(), 8u);
-  for (unsigned pool = 1; pool < 8; ++pool)
+  for (U32 pool = 1; pool < 8; ++pool)
     EXPECT_GT(left[pool], left[pool - 1] + picture().blocks[0].box.width);
 }
 
-TEST_P(SramPictureTest, BlocksAreToScale) {
+TEST_P(RenderedSramTest, BlocksAreToScale) {
   double const top = picture().blocks[0].box.y;
   double const step = picture().blocks[1].box.y - top;
   for (Block const& block : picture().blocks) {
@@ -74,7 +74,7 @@ TEST_P(SramPictureTest, BlocksAreToScale) {
   }
 }
 
-TEST_P(SramPictureTest, NoBlockLiesOnAnother) {
+TEST_P(RenderedSramTest, NoBlockLiesOnAnother) {
   auto const& blocks = picture().blocks;
   for (std::size_t one = 0; one < blocks.size(); ++one)
     for (std::size_t other = 0; other < one; ++other)
@@ -82,7 +82,7 @@ TEST_P(SramPictureTest, NoBlockLiesOnAnother) {
           << blocks[one].hover << " and " << blocks[other].hover;
 }
 
-TEST_P(SramPictureTest, EveryBlockIsSeenAndTellsOfItself) {
+TEST_P(RenderedSramTest, EveryBlockIsSeenAndTellsOfItself) {
   std::map<std::string, std::string> names;
   nlohmann::json const chip = model();
   for (auto const& group : chip.at("groups")) {
@@ -102,7 +102,7 @@ TEST_P(SramPictureTest, EveryBlockIsSeenAndTellsOfItself) {
   }
 }
 
-TEST_P(SramPictureTest, LettersStandWithinTheirBlocks) {
+TEST_P(RenderedSramTest, LettersStandWithinTheirBlocks) {
   for (Block const& block : picture().blocks) {
     EXPECT_GE(block.letterBox.x, block.box.x) << block.hover;
     EXPECT_LE(block.letterBox.right(), block.box.right()) << block.hover;
@@ -112,7 +112,7 @@ TEST_P(SramPictureTest, LettersStandWithinTheirBlocks) {
   }
 }
 
-TEST_P(SramPictureTest, EachGroupHasOneColourAndNoOther) {
+TEST_P(RenderedSramTest, EachGroupHasOneColourAndNoOther) {
   std::map<std::string, std::set<Colour>> byLetter;
   for (Block const& block : picture().blocks) byLetter[block.letter].insert(block.fill);
   std::set<Colour> all;
@@ -123,7 +123,7 @@ TEST_P(SramPictureTest, EachGroupHasOneColourAndNoOther) {
   EXPECT_EQ(all.size(), byLetter.size());
 }
 
-TEST_P(SramPictureTest, LegendHasEachGroupInTheColourOfItsBlocks) {
+TEST_P(RenderedSramTest, LegendHasEachGroupInTheColourOfItsBlocks) {
   std::map<std::string, Colour> fills;
   for (Block const& block : picture().blocks) fills[block.letter] = block.fill;
   nlohmann::json const chip = model();
@@ -134,12 +134,12 @@ TEST_P(SramPictureTest, LegendHasEachGroupInTheColourOfItsBlocks) {
     EXPECT_EQ(line.letter, group.at("letter"));
     EXPECT_EQ(line.fill, fills[line.letter]) << line.letter;
     EXPECT_TRUE(line.text.starts_with(group.at("tables")[0].at("name").get<std::string>()));
-    std::string const count = std::to_string(group.at("blocks").get<unsigned>()) + " block";
+    std::string const count = std::to_string(group.at("blocks").get<U32>()) + " block";
     EXPECT_NE(line.text.find(count), line.text.npos) << line.text;
   }
 }
 
-TEST_P(SramPictureTest, LegendStandsBesideTheMapAndIsSeen) {
+TEST_P(RenderedSramTest, LegendStandsBesideTheMapAndIsSeen) {
   for (LegendLine const& line : picture().legend) {
     EXPECT_TRUE(line.isSeen) << line.text;
     EXPECT_GT(line.box.width, 60) << line.text;
@@ -151,14 +151,14 @@ TEST_P(SramPictureTest, LegendStandsBesideTheMapAndIsSeen) {
   }
 }
 
-TEST_P(SramPictureTest, EachPoolSaysAboveItsColumnWhatIsFree) {
+TEST_P(RenderedSramTest, EachPoolSaysAboveItsColumnWhatIsFree) {
   nlohmann::json const chip = model();
   ASSERT_EQ(picture().pools.size(), 8u);
-  for (unsigned pool = 0; pool < 8; ++pool) {
+  for (U32 pool = 0; pool < 8; ++pool) {
     Label const& name = picture().pools[pool];
     auto const& figures = chip.at("pools")[pool];
-    std::string const free = std::to_string(figures.at("free").get<unsigned>()) + " free of " +
-                             std::to_string(figures.at("blocks").get<unsigned>());
+    std::string const free = std::to_string(figures.at("free").get<U32>()) + " free of " +
+                             std::to_string(figures.at("blocks").get<U32>());
     EXPECT_EQ(name.text, "Pool " + std::to_string(pool));
     auto const note = std::ranges::find_if(picture().notes, [&](Label const& label) {
       return label.text == free && label.box.y > name.box.y &&
@@ -174,7 +174,7 @@ TEST_P(SramPictureTest, EachPoolSaysAboveItsColumnWhatIsFree) {
   }
 }
 
-TEST_P(SramPictureTest, NothingIsFetchedAndNothingFails) {
+TEST_P(RenderedSramTest, NothingIsFetchedAndNothingFails) {
   EXPECT_EQ(picture().fetched, 0u);
   EXPECT_EQ(picture().faults, std::vector<std::string>());
   EXPECT_EQ(picture().beyond, std::vector<std::string>());
@@ -182,7 +182,7 @@ TEST_P(SramPictureTest, NothingIsFetchedAndNothingFails) {
 
 double brightness(Colour const& colour) { return (colour[0] + colour[1] + colour[2]) / 3; }
 
-TEST_P(SramPictureTest, SurroundingsMayBeDark) {
+TEST_P(RenderedSramTest, SurroundingsMayBeDark) {
   EXPECT_GT(brightness(picture().paper), 200);
   EXPECT_LT(brightness(picture().ink), 80);
   Picture const dark = render(GetParam(), "", Surroundings::dark);
@@ -194,7 +194,7 @@ TEST_P(SramPictureTest, SurroundingsMayBeDark) {
         << dark.blocks[i].hover;
 }
 
-TEST_P(SramPictureTest, GroupsMayBeMoreThanLetters) {
+TEST_P(RenderedSramTest, GroupsMayBeMoreThanLetters) {
   Picture const many = render(GetParam(), binary);
   EXPECT_EQ(many.legend.size(), 63u);
   std::set<std::string> letters;
@@ -209,7 +209,7 @@ TEST_P(SramPictureTest, GroupsMayBeMoreThanLetters) {
   EXPECT_EQ(many.legend.back().letter, "AK");
 }
 
-TEST_P(SramPictureTest, BlocksBeyondThePoolsAreNamed) {
+TEST_P(RenderedSramTest, BlocksBeyondThePoolsAreNamed) {
   Picture const odd =
       render(GetParam(), "--profile " KESTREL_SOURCE_DIR "/tests/tool/profiles/beyond.json");
   EXPECT_EQ(odd.beyond, (std::vector<std::string>{"pool 0, blocks 48, 49: MDT",
@@ -217,7 +217,7 @@ TEST_P(SramPictureTest, BlocksBeyondThePoolsAreNamed) {
   EXPECT_EQ(odd.blocks.size(), 448u);
 }
 
-INSTANTIATE_TEST_SUITE_P(Forms, SramPictureTest, testing::Values("--svg", "--html"),
+INSTANTIATE_TEST_SUITE_P(Forms, RenderedSramTest, testing::Values("--svg", "--html"),
                          [](auto const& form) { return std::string(form.param).substr(2); });
 
 TEST(SramPageTest, LineOfTheLegendShowsWhereItsGroupLies) {
