@@ -10,8 +10,6 @@
 
 namespace kestrel {
 
-namespace {
-
 XpXdk::XpDeviceId deviceIdOf(xdksim::Profile const& profile, std::string const& origin) {
   using Id = XpXdk::XpDeviceId;
   try {
@@ -22,6 +20,8 @@ XpXdk::XpDeviceId deviceIdOf(xdksim::Profile const& profile, std::string const& 
                      std::to_string(Id::null));
   }
 }
+
+namespace {
 
 XpLib::Config::LpmTreadCfg::Ptr treadsOf(xdksim::LpmTreadCfg const& plan) {
   XpLib::Config::LpmTreadCfg::Ptr const treads = new XpLib::Config::LpmTreadCfg("lpmTreadCfg");

@@ -12,6 +12,10 @@
 
 namespace kestrel {
 
+/// The profile's device, as the model numbers it.  `origin` is how complaints name the profile.
+/// Throws `UsageFault` for a number that the model can't take.
+XpXdk::XpDeviceId deviceIdOf(xdksim::Profile const& profile, std::string const& origin);
+
 /// One chip of one process.  While it lives, it is the simulated SDK of that process; at its end it
 /// tells on standard error what became of each fault that was asked for.
 class Chip {

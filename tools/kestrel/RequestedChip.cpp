@@ -9,7 +9,9 @@ namespace kestrel {
 xdksim::Profile profileOf(Request const& request) {
   if (!request.profile) return xdksim::defaultProfile();
   try {
-    return xdksim::readProfileFile(*request.profile);
+    xdksim::Profile profile = xdksim::readProfileFile(*request.profile);
+    deviceIdOf(profile, *request.profile);
+    return profile;
   } catch (xdksim::ProfileFault const& fault) {
     throw UsageFault(fault.what());
   }
