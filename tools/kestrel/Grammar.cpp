@@ -115,20 +115,18 @@ void addTable(CLI::App& command, Request& request, char const* help) {
   addNumber(command, "--table", "ID", "table id", help, request.tableId);
 }
 
-CLI::Option* addJson(CLI::App& command, Request& request) {
-  return command.add_flag("--json", request.json, "As JSON");
+void addJson(CLI::App& command, Request& request) {
+  command.add_flag("--json", request.json, "As JSON");
 }
 
-void addPictures(CLI::App& command, Request& request, CLI::Option* json) {
+void addPictures(CLI::App& command, Request& request) {
   command
       .add_option("--svg", request.svg,
-                  "Draw the graph as a picture into this file, in place of the text")
-      ->type_name("FILE")
-      ->excludes(json);
+                  "Draw the graph as a picture into this file, in place of the text or --json")
+      ->type_name("FILE");
   command
       .add_option("--html", request.html, "Draw it into a page, likewise; may stand beside --svg")
-      ->type_name("FILE")
-      ->excludes(json);
+      ->type_name("FILE");
 }
 
 void addReports(CLI::App& app, Request& request) {
@@ -150,7 +148,8 @@ void addReports(CLI::App& app, Request& request) {
 
   CLI::App& sram = addCommand(report, "sram", "Which tables lie on which block of the SRAM",
                               request, reportSram);
-  addPictures(sram, request, addJson(sram, request));
+  addJson(sram, request);
+  addPictures(sram, request);
   addChip(sram, request);
 
   CLI::App& tables =

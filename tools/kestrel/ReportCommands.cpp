@@ -80,6 +80,8 @@ ExitStatus reportDetail(Request const& request, std::ostream& out) {
 }
 
 ExitStatus reportSram(Request const& request, std::ostream& out) {
+  if (request.json && (request.svg || request.html))
+    throw UsageFault("--json can't stand beside --svg or --html");
   Reported chip(request);
   Kestrel::TableCliHelper& reports = chip.reportsFor(Report::sram, request);
   if (request.svg || request.html)
