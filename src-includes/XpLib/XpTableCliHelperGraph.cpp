@@ -5,6 +5,7 @@
 #include "XpLib/XpTableCliHelperMemory.h"
 #include "XpLib/XpTableCliHelperSramMap.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -26,7 +27,7 @@ class Legend {
     char& letter = letters_[group];
     if (letter == 0) {
       letter = nextLetter();
-      legend_->legendIs(map_.group(group), Mox::String8(&letter, 1));
+      legend_->newLegend(map_.group(group), Mox::String8(&letter, 1));
     }
     return letter;
   }
@@ -58,14 +59,17 @@ void drawMargin(std::string& text, U32 block) {
     text += blanks;
 }
 
+// A cell is two blanks and eight times its letter; where a pool has no such block, all are blanks.
 void drawGrid(std::string& text, SramMap const& map, Legend& legend) {
+  constexpr U32 gap = 2;
   for (U32 block = 0; block < blocksPerPool; ++block) {
     drawMargin(text, block);
-    for (U32 pool = 0; pool < numPools; ++pool) {
-      bool const isThere = block < blocksOfPool(pool);
-      text += "  ";
-      text.append(cellWidth, isThere ? legend.letterOf(map.groupAt(pool, block)) : ' ');
-    }
+    text.append(numPools * (gap + cellWidth), ' ');
+    char* const lineEnd = text.data() + text.size();
+    for (U32 pool = 0; pool < numPools; ++pool)
+      if (block < blocksOfPool(pool))
+        std::fill_n(lineEnd - (numPools - pool) * (gap + cellWidth) + gap, cellWidth,
+                    legend.letterOf(map.groupAt(pool, block)));
     text += '\n';
     if ((block + 1) % blocksPerTile == 0) text += '\n';
   }
