@@ -23,9 +23,10 @@ if(TARGET kestrel)
   install(TARGETS kestrel RUNTIME DESTINATION bin)
 endif()
 
-# What the include roots of the build hold goes into one.  Tags and modules are for bodies, and speak of
-# the engines, which no library exports.
-set(only_headers FILES_MATCHING PATTERN "*.h" PATTERN "*.tags.h" EXCLUDE PATTERN "*.module.h" EXCLUDE
+# What the include roots of the build hold goes into one.  Tags, interfaces by number and modules are
+# for bodies, and speak of the engines, which no library exports.
+set(only_headers FILES_MATCHING PATTERN "*.h" PATTERN "*.tags.h" EXCLUDE
+  PATTERN "*.reflect.h" EXCLUDE PATTERN "*.module.h" EXCLUDE
   REGEX "${kestrel_test_file}" EXCLUDE)
 if(KESTREL_STANDIN)
   install(DIRECTORY "${PROJECT_SOURCE_DIR}/platform/" DESTINATION ${headers_to} ${only_headers})

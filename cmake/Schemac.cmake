@@ -57,6 +57,19 @@ function(kestrel_generate_nothing out name problem)
   set(${out} "${source}" PARENT_SCOPE)
 endfunction()
 
+# Has the sources of access by number compiled several at a time: they are short and many, and all
+# of them begin with the same templates.
+function(kestrel_compile_together name)
+  set(sources ${ARGN})
+  list(FILTER sources INCLUDE REGEX "\\.reflect\\.cpp$")
+  set(number 0)
+  foreach(source IN LISTS sources)
+    math(EXPR group "${number} / 8")
+    set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${name}${group}")
+    math(EXPR number "${number} + 1")
+  endforeach()
+endfunction()
+
 # Generates code from the schemas SCHEMAS and those below FOLDERS, and sets `out` to the sources
 # among the files.  INTO names the include root that they go to; with MOX_TYPE the table of type
 # names is generated too.  Nothing is generated from schemas that say something else than LOCK.
@@ -113,6 +126,7 @@ function(kestrel_generate out)
     set_property(GLOBAL APPEND PROPERTY kestrel_generated_stamps "${stamp}")
   endif()
   list(FILTER files INCLUDE REGEX "\\.cpp$")
+  kestrel_compile_together(${arg_NAME} ${files})
   # The stamp is among the sources to make the whole of the files come before what includes them.
   set(${out} "${stamp}" ${files} PARENT_SCOPE)
 endfunction()

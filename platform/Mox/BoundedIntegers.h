@@ -10,6 +10,8 @@
 namespace Mox {
 
 class MoxType;
+template <class T>
+class BoundedIf;
 
 /// A value of 0 to `maximum` kept in a `Storage`.  `Self` derives from it and gives `rangeMessage`,
 /// which a value beyond the maximum raises as `RangeException`.  It converts from and to the raw
@@ -57,6 +59,7 @@ std::ostream& operator<<(std::ostream& out, BoundedInteger<Self, Storage, max> c
 class U1 : public Mox::BoundedInteger<U1, U8, 0x01> {
  public:
   using BoundedInteger::BoundedInteger;
+  using GenericIf_ = Mox::BoundedIf<U1>;
   static constexpr char const* rangeMessage = "U1::value < 0 or > 0x01 not allowed";
   static Mox::MoxType* _fwkType();
 };
@@ -65,6 +68,7 @@ class U1 : public Mox::BoundedInteger<U1, U8, 0x01> {
 class U4 : public Mox::BoundedInteger<U4, U8, 0x0F> {
  public:
   using BoundedInteger::BoundedInteger;
+  using GenericIf_ = Mox::BoundedIf<U4>;
   static constexpr char const* rangeMessage = "U4::value < 0 or > 0x0f not allowed";
   static Mox::MoxType* _fwkType();
 };
@@ -73,6 +77,7 @@ class U4 : public Mox::BoundedInteger<U4, U8, 0x0F> {
 class U6 : public Mox::BoundedInteger<U6, U8, 0x3F> {
  public:
   using BoundedInteger::BoundedInteger;
+  using GenericIf_ = Mox::BoundedIf<U6>;
   static constexpr char const* rangeMessage = "U6::value < 0 or > 0x3f not allowed";
   static Mox::MoxType* _fwkType();
 };
@@ -81,6 +86,7 @@ class U6 : public Mox::BoundedInteger<U6, U8, 0x3F> {
 class U22 : public Mox::BoundedInteger<U22, U32, 0x3FFFFF> {
  public:
   using BoundedInteger::BoundedInteger;
+  using GenericIf_ = Mox::BoundedIf<U22>;
   static constexpr char const* rangeMessage = "U22::value < 0 or > 0x003fffff not allowed";
   static Mox::MoxType* _fwkType();
 };

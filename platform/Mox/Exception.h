@@ -27,6 +27,12 @@ class Exception : public std::exception {
   static constexpr Id rangeId = 1;
   static constexpr Id internalId = 2;
   static constexpr Id nameInUseId = 3;
+  static constexpr Id constId = 4;
+  static constexpr Id badIndexAttrId = 5;
+  static constexpr Id typeId = 6;
+  static constexpr Id opNotSupportedId = 7;
+  static constexpr Id unknownAttrId = 8;
+  static constexpr Id unknownArgId = 9;
   static constexpr Id attrLogEntityId = 47;
 
   Exception(String8 const& message, IdBitArray const& ids, bool expected = false);
@@ -67,6 +73,44 @@ class NameInUseException : public Exception {
 class AttrLogEntityException : public Exception {
  public:
   explicit AttrLogEntityException(String8 const& message, IdBitArray ids = {});
+};
+
+// What an interface to attributes by number can't do (GenericIf.h).
+
+/// A write through a constant interface.
+class ConstException : public Exception {
+ public:
+  explicit ConstException(String8 const& message, IdBitArray ids = {});
+};
+
+/// An index for an attribute that has none.
+class BadIndexAttrException : public Exception {
+ public:
+  explicit BadIndexAttrException(String8 const& message, IdBitArray ids = {});
+};
+
+/// A value or key of another type than the one that is wanted.
+class TypeException : public Exception {
+ public:
+  explicit TypeException(String8 const& message, IdBitArray ids = {});
+};
+
+/// Something that can't be asked of this attribute.
+class OpNotSupportedException : public Exception {
+ public:
+  explicit OpNotSupportedException(String8 const& message, IdBitArray ids = {});
+};
+
+/// An attribute that the type doesn't have.
+class UnknownAttrException : public Exception {
+ public:
+  explicit UnknownAttrException(String8 const& message, IdBitArray ids = {});
+};
+
+/// More arguments than are wanted.
+class UnknownArgException : public Exception {
+ public:
+  explicit UnknownArgException(String8 const& message, IdBitArray ids = {});
 };
 
 // The raisers that the model calls; none returns.

@@ -1,14 +1,19 @@
 // The whole runtime.
 #pragma once
 
+#include "Mox/Activity.h"
 #include "Mox/Assert.h"
 #include "Mox/AttributeId.h"
 #include "Mox/BitSet.h"
+#include "Mox/BoundedIf.h"
 #include "Mox/BoundedIntegers.h"
+#include "Mox/Builtin.h"
 #include "Mox/ByteConnection.h"
 #include "Mox/Dir.h"
 #include "Mox/Entity.h"
 #include "Mox/Exception.h"
+#include "Mox/GenericIf.h"
+#include "Mox/GenericIfEntity.h"
 #include "Mox/HashMap.h"
 #include "Mox/HashMapGeneric.h"
 #include "Mox/HashMapVTable.h"

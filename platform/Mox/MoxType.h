@@ -2,6 +2,8 @@
 #pragma once
 
 #include "Mox/Entity.h"
+#include "Mox/GenericIf.h"
+#include "Mox/HashMap.h"
 #include "Mox/LinkQueue.h"
 
 #include <vector>
@@ -116,6 +118,9 @@ class MoxType : public MoxAttr {
   AttributeQ const& attributeQ() const noexcept { return queue_; }
   /// The attribute of that id, the base's included; null where there is none.
   MoxAttr const* attributeById(AttributeId id) const noexcept;
+  /// The attribute of that name, the base's included; null where there is none.  Constant on
+  /// average.
+  MoxAttr const* attributeByName(Name const& name) const;
 
   void derivedTypeQEnq(MoxType* derived) { derived_.push_back(derived); }
   std::vector<MoxType*> const& derivedTypeQ() const noexcept { return derived_; }
@@ -123,6 +128,17 @@ class MoxType : public MoxAttr {
   /// Makes a free-standing root entity as its factory does, for the platform's tools, which name a
   /// directory that is not looked at.  Null for a type that isn't a root.
   virtual Ptr<Entity> newEntity(Name const& name, Dir* dir) const;
+
+  /// The interface of a value of this type, copied from `value`; of an object or entity, to which a
+  /// `PtrInterface const*` at `value` points, or which is null.  Held by the caller alone.  Raises
+  /// `OpNotSupportedException` for a type without reflective access.
+  virtual Ptr<GenericIf> genericIf(void const* value, bool isConst) const;
+  /// The same from a text form: a value's own, an entity's reference (Strep.h).  Raises
+  /// `RangeException` for a text that isn't one, and `TypeException` for an entity of another type.
+  virtual Ptr<GenericIf> genericIf(String8 const& text, bool isConst) const;
+  /// The interface of an object or entity of this type; null gives one of no entity.  Raises
+  /// `TypeException` for one of another type.
+  virtual Ptr<GenericIf> genericIf_(PtrInterface* object, bool isConst) const;
 
   /// Registers a type under its full name; a later one of the same name takes its place.
   static void typeNodeIs(MoxType const* type, Name const& fullName);
@@ -142,25 +158,13 @@ class MoxType : public MoxAttr {
   MoxTypeFlags flags_;
   MoxAttr const* valAttr_ = nullptr;
   AttributeQ queue_;
+  using NameIndex = HashMap<MapNode<Name, MoxAttr const*>, Name, MoxAttr const*>;
+  mutable NameIndex byName_;  // of the queue, made when it is asked for
   std::vector<MoxType*> derived_;
 };
 
 /// Makes a descriptor immortal: a reference that nobody drops, struck from the tracker.
 MoxType* immortal(MoxType* type);
-
-/// Descriptors of the primitives, by the names that schemas use ("U8", "bool", "Mox::String").
-template <class T>
-struct Builtin {
-  static MoxType* _fwkType();
-};
-
-/// The descriptor of a bounded integer, made on first use: a value whose one field is `value`.
-MoxType* boundedType(char const* name, MoxType* storage, std::size_t size);
-
-template <class Bounded>
-MoxType* boundedType(char const* name) {
-  return boundedType(name, Builtin<typename Bounded::Storage>::_fwkType(), sizeof(Bounded));
-}
 
 /// Opens and closes types while a module describes itself.  One per process; before it is ready,
 /// modules leave their types bare.

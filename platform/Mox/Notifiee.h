@@ -86,6 +86,8 @@ class PtrInterface::NotifieeConst : public PtrInterface {
   void moxRegisteredIs(bool registered) const noexcept { registered_ = registered; }
 
  protected:
+  /// Where the notifier is kept.
+  PtrInterface const* const& moxNotifierWord() const noexcept { return notifier_; }
   void moxLevelIs(NotifieeLevel const* level) noexcept { level_ = level; }
 
  private:

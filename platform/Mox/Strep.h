@@ -8,6 +8,7 @@
 
 #include "Mox/Exception.h"
 #include "Mox/Name.h"
+#include "Mox/Ptr.h"
 #include "Mox/String8.h"
 
 #include <concepts>
@@ -68,6 +69,15 @@ unsigned long long sequenceToValue(String8::IteratorConst& at, String8::Iterator
 /// "True", "False", "1" or "0".
 bool sequenceToValue(String8::IteratorConst& at, String8::IteratorConst const& end, bool* to);
 double sequenceToValue(String8::IteratorConst& at, String8::IteratorConst const& end, double* to);
+
+/// An entity by its reference, as `valueToStrepOfRawPtr` writes it: null for "None"; else the one
+/// of exactly that type and full name below the root directory (Dir.h).  Raises `RangeException`
+/// for a text that is no reference, and where there is no such entity or more than one.
+Ptr<Entity> sequenceToValueOfPtr(String8::IteratorConst& at, String8::IteratorConst const& end,
+                                 Entity* to);
+/// What isn't an entity has no name to be found by: only "None" is read.
+Ptr<PtrInterface> sequenceToValueOfPtr(String8::IteratorConst& at,
+                                       String8::IteratorConst const& end, PtrInterface* to);
 
 /// Requires the text of `pattern` at the position and advances past it.  A blank in the pattern
 /// stands for any white space, none included.

@@ -1,8 +1,110 @@
-// Descriptors of the primitives.
+// Primitives: their descriptors and their interfaces; the descriptors of the bounded integers.
+#include "Mox/Builtin.h"
+
+#include "Mox/BoundedIf.h"
 #include "Mox/BoundedIntegers.h"
-#include "Mox/MoxType.h"
+#include "Mox/Strep.h"
+#include "standin/mox/FreeList.h"
+
+#include <type_traits>
 
 namespace Mox {
+
+namespace {
+
+String8 textOf(void* const& memory) { return memory ? "Object('VoidPtr')" : "None"; }
+template <class T>
+String8 textOf(T const& value) {
+  return valueToStrep(value);
+}
+
+void* parsed(String8 const& text, void**) {
+  auto at = text.begin();
+  needString(at, text.end(), "None");
+  requireEnd(at);
+  return nullptr;
+}
+template <class T>
+T parsed(String8 const& text, T*) {
+  return strepToValue<T>(text);
+}
+
+template <class T>
+class PrimitiveIf : public GenericIf {
+ public:
+  PrimitiveIf(T const& value, bool isConst)
+      : GenericIf(Builtin<T>::_fwkType(), isConst), value_(value) {
+    heldIs(&value_);
+    referenceWord_.flagIs(ReferenceWord::notificationActive, true);
+  }
+
+  Ptr clone() override { return primitiveIf(value_, isConst()); }
+  String8 strRep() const override { return textOf(value_); }
+
+  /// Takes another value, if nobody but the caller holds this interface, or could.
+  bool servesAgain(T const& value, bool isConst) {
+    if (referenceWord() != (ReferenceWord::notificationActive | 1)) return false;
+    value_ = value;
+    isConstIs(isConst);
+    return true;
+  }
+
+ private:
+  T value_;
+};
+
+template <class T>
+class PrimitiveType : public MoxType {
+ public:
+  explicit PrimitiveType(char const* name) : MoxType(name, nullptr, nullptr, {}) {}
+  Ptr<GenericIf> genericIf(void const* value, bool isConst) const override {
+    return primitiveIf(*static_cast<T const*>(value), isConst);
+  }
+  Ptr<GenericIf> genericIf(String8 const& text, bool isConst) const override {
+    return primitiveIf(parsed(text, static_cast<T*>(nullptr)), isConst);
+  }
+};
+
+template <class T>
+MoxType* primitive(char const* name) {
+  static MoxType* const type = immortal(new PrimitiveType<T>(name));
+  return type;
+}
+
+/// What is read and let go again and again: one interface of each type stays.
+template <class T>
+constinit PrimitiveIf<T>* spare = nullptr;
+
+}  // namespace
+
+template <Primitive T>
+GenericIf::Ptr primitiveIf(T const& value, bool isConst) {
+  // Only what has nothing to release may wait for its next use.
+  if constexpr (std::is_trivially_destructible_v<T>) {
+    if (FreeList::keeps()) [[likely]] {
+      PrimitiveIf<T>*& one = spare<T>;
+      if (one && one->servesAgain(value, isConst)) [[likely]]
+        return one;
+      if (one) one->referencesDec();
+      one = new PrimitiveIf<T>(value, isConst);
+      one->referencesInc();
+      return one;
+    }
+  }
+  return new PrimitiveIf<T>(value, isConst);
+}
+
+template GenericIf::Ptr primitiveIf(bool const&, bool);
+template GenericIf::Ptr primitiveIf(U8 const&, bool);
+template GenericIf::Ptr primitiveIf(S8 const&, bool);
+template GenericIf::Ptr primitiveIf(U16 const&, bool);
+template GenericIf::Ptr primitiveIf(U32 const&, bool);
+template GenericIf::Ptr primitiveIf(S32 const&, bool);
+template GenericIf::Ptr primitiveIf(U64 const&, bool);
+template GenericIf::Ptr primitiveIf(double const&, bool);
+template GenericIf::Ptr primitiveIf(String8 const&, bool);
+template GenericIf::Ptr primitiveIf(Name const&, bool);
+template GenericIf::Ptr primitiveIf(void* const&, bool);
 
 template <>
 MoxType* Builtin<void>::_fwkType() {
@@ -10,57 +112,50 @@ MoxType* Builtin<void>::_fwkType() {
 }
 template <>
 MoxType* Builtin<void*>::_fwkType() {
-  return MoxType::opaque("VoidPtr");
+  return primitive<void*>("VoidPtr");
 }
 template <>
 MoxType* Builtin<bool>::_fwkType() {
-  return MoxType::opaque("bool");
+  return primitive<bool>("bool");
 }
 template <>
 MoxType* Builtin<U8>::_fwkType() {
-  return MoxType::opaque("U8");
+  return primitive<U8>("U8");
 }
 template <>
 MoxType* Builtin<S8>::_fwkType() {
-  return MoxType::opaque("S8");
+  return primitive<S8>("S8");
 }
 template <>
 MoxType* Builtin<U16>::_fwkType() {
-  return MoxType::opaque("U16");
+  return primitive<U16>("U16");
 }
 template <>
 MoxType* Builtin<U32>::_fwkType() {
-  return MoxType::opaque("U32");
+  return primitive<U32>("U32");
 }
 template <>
 MoxType* Builtin<S32>::_fwkType() {
-  return MoxType::opaque("S32");
+  return primitive<S32>("S32");
 }
 template <>
 MoxType* Builtin<U64>::_fwkType() {
-  return MoxType::opaque("U64");
+  return primitive<U64>("U64");
 }
 template <>
 MoxType* Builtin<double>::_fwkType() {
-  return MoxType::opaque("double");
+  return primitive<double>("double");
 }
 template <>
 MoxType* Builtin<String8>::_fwkType() {
-  return MoxType::opaque("Mox::String");
+  return primitive<String8>("Mox::String");
+}
+template <>
+MoxType* Builtin<Name>::_fwkType() {
+  return primitive<Name>("Mox::Name");
 }
 
-MoxType* boundedType(char const* name, MoxType* storage, std::size_t size) {
-  MoxType* const type = MoxType::opaque(name);
-  if (type->valAttr()) return type;
-  constexpr MoxAttr::AttrFlags mutableField{0x22010F, 0x400};
-  type->sizeIs(static_cast<U32>(size));
-  type->isValueIs(true);
-  type->hasGenericIfSupportIs(true);
-  auto const value = type->defNoninstantiatingAttr(storage, "value", nullptr, mutableField, 2, 2);
-  type->attributeQEnq(value);
-  type->valAttrIs(value.ptr());
-  return type;
-}
+MoxType* Name::_fwkType() { return Builtin<Name>::_fwkType(); }
 
 }  // namespace Mox
 

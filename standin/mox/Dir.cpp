@@ -3,6 +3,11 @@
 
 namespace Mox {
 
+Ptr<Dir> const& Dir::root() {
+  static auto const* const root = new Ptr<Dir>(new Dir(""));
+  return *root;
+}
+
 Ptr<Entity> Dir::entry(Name const& name) const {
   auto const found = entries_.find(name);
   return found == entries_.end() ? nullptr : found->second;

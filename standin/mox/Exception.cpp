@@ -47,6 +47,26 @@ AttrLogEntityException::AttrLogEntityException(String8 const& message, IdBitArra
     : Exception(message, with(ids, attrLogEntityId),
                 Expect::isExpected(with(ids, attrLogEntityId))) {}
 
+ConstException::ConstException(String8 const& message, IdBitArray ids)
+    : Exception(message, with(ids, constId), Expect::isExpected(with(ids, constId))) {}
+
+BadIndexAttrException::BadIndexAttrException(String8 const& message, IdBitArray ids)
+    : Exception(message, with(ids, badIndexAttrId), Expect::isExpected(with(ids, badIndexAttrId))) {
+}
+
+TypeException::TypeException(String8 const& message, IdBitArray ids)
+    : Exception(message, with(ids, typeId), Expect::isExpected(with(ids, typeId))) {}
+
+OpNotSupportedException::OpNotSupportedException(String8 const& message, IdBitArray ids)
+    : Exception(message, with(ids, opNotSupportedId),
+                Expect::isExpected(with(ids, opNotSupportedId))) {}
+
+UnknownAttrException::UnknownAttrException(String8 const& message, IdBitArray ids)
+    : Exception(message, with(ids, unknownAttrId), Expect::isExpected(with(ids, unknownAttrId))) {}
+
+UnknownArgException::UnknownArgException(String8 const& message, IdBitArray ids)
+    : Exception(message, with(ids, unknownArgId), Expect::isExpected(with(ids, unknownArgId))) {}
+
 void throwRangeException(char const* message) { throw RangeException(message); }
 void throwRangeException(String8 const& message) { throw RangeException(message); }
 void throwInternalException(char const* message) { throw InternalException(message); }

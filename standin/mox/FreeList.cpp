@@ -35,9 +35,7 @@ constexpr bool listed = true;
 constexpr bool listed = true;
 #endif
 
-bool usable(std::size_t size) noexcept {
-  return listed && size <= FreeList::largest && !ReferenceWord::threadSafe;
-}
+bool usable(std::size_t size) noexcept { return FreeList::keeps() && size <= FreeList::largest; }
 
 // Size 0 is served as size 1.
 std::size_t classOf(std::size_t size) noexcept { return (size - (size != 0)) / step; }
@@ -73,6 +71,7 @@ void given(void* block, std::size_t size) noexcept {
 
 }  // namespace
 
+bool FreeList::keeps() noexcept { return listed && !ReferenceWord::threadSafe; }
 void* FreeList::take(std::size_t size) { return taken(size); }
 void FreeList::give(void* block, std::size_t size) noexcept { given(block, size); }
 std::size_t FreeList::kept(std::size_t size) noexcept { return classes[classOf(size)].blocks; }

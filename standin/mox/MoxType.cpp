@@ -1,6 +1,8 @@
 // Descriptors: attributes in their scopes, types in the process's registry.
 #include "Mox/MoxType.h"
 
+#include "Mox/Strep.h"
+
 #include <algorithm>
 #include <map>
 
@@ -63,12 +65,38 @@ Ptr<MoxAttr> MoxType::defNoninstantiatingAttr(MoxType const* type, Name const& n
 }
 
 void MoxType::attributeQEnq(Ptr<MoxAttr> const& attribute) {
+  byName_.deleteAll();
   queue_.enq(new MapNode<AttributeId, Ptr<MoxAttr>>(attribute->id(), attribute));
 }
 
 MoxAttr const* MoxType::attributeById(AttributeId id) const noexcept {
   auto const* const entry = queue_.find(id);
   return entry ? entry->value().ptr() : nullptr;
+}
+
+MoxAttr const* MoxType::attributeByName(Name const& name) const {
+  if (byName_.count() == 0)
+    for (auto const& entry : queue_)
+      if (Name const& its = entry.value()->moxName(); !byName_.isMember(its))
+        byName_.newMember(new MapNode<Name, MoxAttr const*>(its, entry.value().ptr()));
+  auto const* const node = byName_.find(name);
+  return node ? node->value() : nullptr;
+}
+
+Ptr<GenericIf> MoxType::genericIf(void const* value, bool isConst) const {
+  return genericIf_(*static_cast<PtrInterface* const*>(value), isConst);
+}
+
+Ptr<GenericIf> MoxType::genericIf(String8 const& text, bool isConst) const {
+  if (!isEntity()) throwRangeException(fullTypeName().stringValue() + " has no text form");
+  auto at = text.begin();
+  auto const entity = sequenceToValueOfPtr(at, text.end(), static_cast<Entity*>(nullptr));
+  requireEnd(at);
+  return genericIf_(entity.ptr(), isConst);
+}
+
+Ptr<GenericIf> MoxType::genericIf_(PtrInterface*, bool) const {
+  GenericIf::throwOpNotSupportedException(fullTypeName().stringValue(), GenericIf::opRead, false);
 }
 
 Ptr<Entity> MoxType::newEntity(Name const&, Dir*) const { return nullptr; }
@@ -97,7 +125,6 @@ MoxType* MoxType::opaque(char const* name) {
 
 MoxType* MoxType::_fwkType() { return opaque("Mox::MoxType"); }
 MoxType* Entity::_fwkType() { return MoxType::opaque("Mox::Entity"); }
-MoxType* Name::_fwkType() { return MoxType::opaque("Mox::Name"); }
 
 Ptr<IntrospectionReactor> IntrospectionReactor::global() {
   static Ptr<IntrospectionReactor> const reactor = new IntrospectionReactor;

@@ -30,6 +30,11 @@ void addRange(Scope& scope, Row const& row) {
   bounds.texts["message"] = row.range->message;
 }
 
+// The header with the interface of the type that `header` declares.
+std::string reflectHeader(std::string const& header) {
+  return header.substr(0, header.rfind(".h")) + ".reflect.h";
+}
+
 }  // namespace
 
 std::string capitalised(std::string_view name) { return withFirst(name, 'a', 'A'); }
@@ -146,6 +151,7 @@ Scope Names::symbolScope(Type const& type, Symbol const& symbol) const {
   scope.texts["anchor"] = markdownAnchor(symbol.name);
   scope.texts["typeSpace"] = symbol.space;
   scope.texts["header"] = symbol.header;
+  scope.texts["reflectHeader"] = reflectHeader(symbol.header);
   scope.texts["text"] = symbol.external ? optionText(given, "text") : "";
   if (scope.texts["text"].empty()) scope.texts["text"] = spelled;
   for (Kind kind : {Kind::primitive, Kind::value, Kind::enumeration, Kind::entity, Kind::object})

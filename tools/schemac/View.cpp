@@ -67,6 +67,20 @@ void addShapesUsed(Type const& type, Scope& scope) {
   }
 }
 
+// What access by number asks of a type beside its rows.
+void addAccess(Type const& type, Scope& scope) {
+  auto hasAny = [&](std::string_view names) {
+    return std::ranges::any_of(type.rows,
+                               [&](Row const& row) { return hasWord(names, row.shape->name); });
+  };
+  scope.flag("hasCollections", hasAny("map refs owns"));
+  scope.flag("hasHooks", hasAny("scalar counter ref own map refs owns"));
+  bool const takes = type.kind == Kind::value
+                         ? !scope.lists.at("fields").empty()
+                         : type.kind == Kind::entity && !scope.lists.at("ownParams").empty();
+  scope.flag("listConstructed", takes);
+}
+
 // The stored fields of a value.  Its constructor takes them, unless each can be set by itself.
 void addFields(Names const& names, Type const& type, Scope& scope) {
   auto& fields = scope.lists["fields"];
@@ -143,6 +157,7 @@ Scope typeScope(Names const& names, Type const& type) {
   addFields(names, type, scope);
   scope.flag("hasRows", !type.rows.empty());
   addShapesUsed(type, scope);
+  addAccess(type, scope);
   addUses(names, type, scope);
   return scope;
 }

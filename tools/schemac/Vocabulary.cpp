@@ -14,7 +14,7 @@ constexpr std::array<std::string_view, 5> kindNames = {"primitive", "value", "en
 constexpr std::string_view mapMakes =
     "$name$ $name$Is new$Name$ $name$Del $name$DelAll $name$Notify $name$Count $name$Iterator "
     "$name$IteratorConst $name$_ Mox$Name$ $Name$Map NotifieeConst::on$Name$ "
-    "NotifieeConst::on$Name$moxImmediate Tags::$Name$";
+    "NotifieeConst::on$Name$moxImmediate NotifieeConst::$name$Pending Tags::$Name$";
 
 constexpr Shape shapeTable[] = {
     {.name = "param", .blocks = "entity object", .form = Form::type, .makes = "$name$ $name$_"},
@@ -58,8 +58,8 @@ constexpr Shape shapeTable[] = {
      .takesArguments = true,
      .makes = "$name$ $name$Is new$Name$ $name$Del $name$DelAll $name$Notify $name$Count "
               "$name$Iterator $name$IteratorConst $name$_ Mox$Name$ $Name$Map "
-              "NotifieeConst::on$Name$ NotifieeConst::on$Name$moxImmediate Tags::$Name$ "
-              "::$name$Args",
+              "NotifieeConst::on$Name$ NotifieeConst::on$Name$moxImmediate "
+              "NotifieeConst::$name$Pending Tags::$Name$ ::$name$Args",
      .tagTypes = "Owner Child Key Node"},
     {.name = "computed", .blocks = "entity value object", .form = Form::type, .makes = "$name$"},
     {.name = "field",
@@ -68,12 +68,12 @@ constexpr Shape shapeTable[] = {
      .takesDefault = true,
      .takesRange = true,
      .makes = "$name$ $name$Is $name$_"},
-    {.name = "bound", .blocks = "value", .form = Form::type, .takesRange = true},
+    {.name = "bound", .blocks = "value", .form = Form::type, .takesRange = true, .makes = "$name$"},
     {.name = "operation",
      .blocks = "entity object",
      .form = Form::call,
      .numbering = Numbering::maybe,
-     .makes = "$name$ ::$name$Args"},
+     .makes = "$name$ ::$name$Args ::$name$Arguments"},
     {.name = "preset",
      .blocks = "entity",
      .form = Form::type,
@@ -84,7 +84,8 @@ constexpr Shape shapeTable[] = {
 
 constexpr std::string_view entityNames =
     // What the header makes of every entity, and what its bodies look up.
-    "$Class$ Ptr PtrConst NotifieeConst Notifiee _Type Tags fwkType _fwkType moxNotifiees "
+    "$Class$ Ptr PtrConst NotifieeConst Notifiee _Type GenericIf_ Tags fwkType _fwkType "
+    "moxNotifiees "
     "notifiees_ moxKey moxNext_ attributeRows $class$Type moxInit$module$ ::constructorArgs "
     "Tags::Tags Tags::Mox Tags::NotifieeConst "
     // Mox::Entity
@@ -102,7 +103,8 @@ constexpr std::string_view entityNames =
     "NotifieeConst::onNotificationException NotifieeConst::onZeroReferences";
 
 constexpr std::string_view objectNames =
-    "$Class$ Ptr PtrConst NotifieeConst Notifiee _Type Tags fwkType _fwkType $class$Type "
+    "$Class$ Ptr PtrConst NotifieeConst Notifiee _Type GenericIf_ Tags fwkType _fwkType "
+    "$class$Type "
     "moxInit$module$ ::constructorArgs Tags::Tags Tags::Mox moxDoZombieReactors moxFwkActivity "
     // Mox::PtrInterface
     "hasNotificationActiveIs moxAuditErrors auditErrors zeroReferencesIs referencesInc "
@@ -110,7 +112,7 @@ constexpr std::string_view objectNames =
     "hasNotificationActive moxMarkedForDeletion moxMarkedForDeletionIs";
 
 constexpr std::string_view valueNames =
-    "$Class$ _Type Fields Tags fwkType _fwkType $class$Type moxInit$module$ "
+    "$Class$ _Type GenericIf_ Fields Tags fwkType _fwkType $class$Type moxInit$module$ "
     "Tags::Tags Tags::Mox";
 
 constexpr std::string_view enumNames =

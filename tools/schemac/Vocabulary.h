@@ -69,7 +69,8 @@ std::string_view namesOfKind(Kind kind);
 
 /// What the namespace gets from a type, written in the same way.
 inline constexpr std::string_view namesOfType = "$Class$ $class$Row $class$Type $class$Factory";
-inline constexpr std::string_view namesOfEnum = "$Class$Instance _fwkType_$Class$";
+inline constexpr std::string_view namesOfEnum =
+    "$Class$Instance $Class$_GenericIf_ _fwkType_$Class$";
 
 /// The words in `words`, which are separated by single spaces.
 std::vector<std::string_view> wordsOf(std::string_view words);

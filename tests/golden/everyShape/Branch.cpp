@@ -2,17 +2,13 @@
 #include "everyShape/Branch.h"
 
 #include "everyShape/Branch.tags.h"
+#include "everyShape/Branch.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/Observe.h"
 #include "frame/Own.h"
 
 namespace everyShape {
-
-class Branch::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Branch", nullptr, Stem::_fwkType(), {}) {}
-};
 
 namespace {
 

@@ -18,6 +18,7 @@ class Branch : public Stem {
   class NotifieeConst;
   class Notifiee;
   class _Type;
+  class GenericIf_;
   struct Tags;
 
   Branch(U16 port, Mox::Ptr<Leaf> const& leaf, Mood mood);

@@ -2,17 +2,13 @@
 #include "everyShape/Brook.h"
 
 #include "everyShape/Brook.tags.h"
+#include "everyShape/Brook.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/Observe.h"
 #include "frame/Ref.h"
 
 namespace everyShape {
-
-class Brook::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Brook", nullptr, Mox::Entity::_fwkType(), {}) {}
-};
 
 namespace {
 

@@ -14,6 +14,7 @@ class Brook : public Mox::Entity {
   class NotifieeConst;
   class Notifiee;
   class _Type;
+  class GenericIf_;
   struct Tags;
 
   explicit Brook(Mox::Name const& name);

@@ -2,17 +2,13 @@
 #include "everyShape/Bush.h"
 
 #include "everyShape/Bush.tags.h"
+#include "everyShape/Bush.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/Observe.h"
 #include "frame/Owns.h"
 
 namespace everyShape {
-
-class Bush::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Bush", nullptr, Mox::Entity::_fwkType(), {}) {}
-};
 
 namespace {
 

@@ -16,6 +16,7 @@ class Bush : public Mox::Entity {
   class NotifieeConst;
   class Notifiee;
   class _Type;
+  class GenericIf_;
   struct Tags;
 
   using BranchesMap = Mox::HashMap<Branch, U16, Branch>;

@@ -20,6 +20,8 @@ struct Bush::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onBranches;
     static auto& map(Owner& owner) { return owner.branches_; }
     static auto const& map(Owner const& owner) { return owner.branches_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.branches(key); }
+    static void erase(Owner& owner, Key const& key) { owner.branchesDel(key); }
     static Child* childOf(Node& node) { return &node; }
     static Mox::Ptr<Node> nodeFor(Mox::Ptr<Child> const& child) { return child; }
     static void requireSame(Child const& child, Mox::Ptr<::everyShape::Leaf> const& leaf,

@@ -2,6 +2,7 @@
 #include "everyShape/Derived.h"
 
 #include "everyShape/Derived.tags.h"
+#include "everyShape/Derived.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/Observe.h"
@@ -9,11 +10,6 @@
 #include "frame/Map.h"
 
 namespace everyShape {
-
-class Derived::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Derived", nullptr, Every::_fwkType(), {}) {}
-};
 
 namespace {
 

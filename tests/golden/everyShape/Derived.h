@@ -15,6 +15,7 @@ class Derived : public Every {
   class NotifieeConst;
   class Notifiee;
   class _Type;
+  class GenericIf_;
   struct Tags;
 
   /// A node of `marks`.

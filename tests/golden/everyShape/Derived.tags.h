@@ -31,6 +31,11 @@ struct Derived::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onMarks;
     static auto& map(Owner& owner) { return owner.marks_; }
     static auto const& map(Owner const& owner) { return owner.marks_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.marks(key); }
+    static void erase(Owner& owner, Key const& key) { owner.marksDel(key); }
+    static void write(Owner& owner, Key const& key, Value const& value) {
+      owner.marksIs(key, value);
+    }
   };
 };
 

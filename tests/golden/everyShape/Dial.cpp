@@ -1,16 +1,12 @@
 // everyShape::Dial: one line for each operation.  Made by schemac from everyShape.schema.
 #include "everyShape/Dial.h"
 
+#include "everyShape/Dial.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/SingleField.h"
 
 namespace everyShape {
-
-class Dial::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Dial", nullptr, nullptr, {}) {}
-};
 
 namespace {
 

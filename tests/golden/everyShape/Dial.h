@@ -11,6 +11,7 @@ namespace everyShape {
 class Dial {
  public:
   class _Type;
+  class GenericIf_;
 
   Dial() = default;
   /// A number above 0 raises `RangeException` "Dial::value < 0 or > 0 not allowed".

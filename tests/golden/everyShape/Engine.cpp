@@ -1,15 +1,11 @@
 // everyShape::Engine: one line for each operation.  Made by schemac from everyShape.schema.
 #include "everyShape/Engine.h"
 
+#include "everyShape/Engine.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 
 namespace everyShape {
-
-class Engine::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Engine", nullptr, nullptr, {}) {}
-};
 
 namespace {
 

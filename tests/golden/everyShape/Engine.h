@@ -13,6 +13,7 @@ class Engine : public Mox::PtrInterface {
   using PtrConst = Mox::Ptr<Engine const>;
 
   class _Type;
+  class GenericIf_;
   struct Tags;
 
   Engine(Mox::Ptr<Grove> const& grove, Mox::String8 const& note);

@@ -2,6 +2,7 @@
 #include "everyShape/Every.h"
 
 #include "everyShape/Every.tags.h"
+#include "everyShape/Every.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/Observe.h"
@@ -14,11 +15,6 @@
 #include "frame/Owns.h"
 
 namespace everyShape {
-
-class Every::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Every", nullptr, Mox::Entity::_fwkType(), {}) {}
-};
 
 namespace {
 

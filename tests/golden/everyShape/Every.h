@@ -17,6 +17,7 @@ class Every : public Mox::Entity {
   class NotifieeConst;
   class Notifiee;
   class _Type;
+  class GenericIf_;
   struct Tags;
 
   /// A node of `bytes`.

@@ -108,6 +108,11 @@ struct Every::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onBytes;
     static auto& map(Owner& owner) { return owner.bytes_; }
     static auto const& map(Owner const& owner) { return owner.bytes_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.bytes(key); }
+    static void erase(Owner& owner, Key const& key) { owner.bytesDel(key); }
+    static void write(Owner& owner, Key const& key, Value const& value) {
+      owner.bytesIs(key, value);
+    }
   };
 
   struct Words {
@@ -122,6 +127,11 @@ struct Every::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onWords;
     static auto& map(Owner& owner) { return owner.words_; }
     static auto const& map(Owner const& owner) { return owner.words_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.words(key); }
+    static void erase(Owner& owner, Key const& key) { owner.wordsDel(key); }
+    static void write(Owner& owner, Key const& key, Value const& value) {
+      owner.wordsIs(key, value);
+    }
   };
 
   struct Texts {
@@ -136,6 +146,11 @@ struct Every::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onTexts;
     static auto& map(Owner& owner) { return owner.texts_; }
     static auto const& map(Owner const& owner) { return owner.texts_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.texts(key); }
+    static void erase(Owner& owner, Key const& key) { owner.textsDel(key); }
+    static void write(Owner& owner, Key const& key, Value const& value) {
+      owner.textsIs(key, value);
+    }
   };
 
   struct Buddy {
@@ -161,7 +176,10 @@ struct Every::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onKnown;
     static auto& map(Owner& owner) { return owner.known_; }
     static auto const& map(Owner const& owner) { return owner.known_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.known(key); }
+    static void erase(Owner& owner, Key const& key) { owner.knownDel(key); }
     static Key keyOf(::everyShape::Leaf const& target) { return target.name(); }
+    static void enter(Owner& owner, Value const& target) { owner.knownIs(target); }
   };
 
   struct Seats {
@@ -176,6 +194,11 @@ struct Every::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onSeats;
     static auto& map(Owner& owner) { return owner.seats_; }
     static auto const& map(Owner const& owner) { return owner.seats_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.seats(key); }
+    static void erase(Owner& owner, Key const& key) { owner.seatsDel(key); }
+    static void write(Owner& owner, Key const& key, Value const& target) {
+      owner.seatsIs(key, target);
+    }
   };
 
   struct Best {
@@ -207,6 +230,8 @@ struct Every::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onLeaves;
     static auto& map(Owner& owner) { return owner.leaves_; }
     static auto const& map(Owner const& owner) { return owner.leaves_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.leaves(key); }
+    static void erase(Owner& owner, Key const& key) { owner.leavesDel(key); }
     static Child* childOf(Node& node) { return &node; }
     static Mox::Ptr<Node> nodeFor(Mox::Ptr<Child> const& child) { return child; }
     static void requireSame(Child const& child, U8 lane, ::everyShape::Mix mix) {
@@ -228,6 +253,11 @@ struct Every::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onLanes;
     static auto& map(Owner& owner) { return owner.lanes_; }
     static auto const& map(Owner const& owner) { return owner.lanes_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.lanes(key); }
+    static void erase(Owner& owner, Key const& key) { owner.lanesDel(key); }
+    static void write(Owner& owner, Key const& key, Value const& value) {
+      owner.lanesIs(key, value);
+    }
   };
 
   struct Odd {

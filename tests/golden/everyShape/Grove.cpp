@@ -2,6 +2,7 @@
 #include "everyShape/Grove.h"
 
 #include "everyShape/Grove.tags.h"
+#include "everyShape/Grove.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/Observe.h"
@@ -12,14 +13,6 @@
 #include "frame/Owns.h"
 
 namespace everyShape {
-
-class Grove::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Grove", nullptr, Mox::Entity::_fwkType(), {}) {}
-  Mox::Ptr<Mox::Entity> newEntity(Mox::Name const& name, Mox::Dir*) const override {
-    return new Grove(name);
-  }
-};
 
 namespace {
 

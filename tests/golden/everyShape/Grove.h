@@ -20,6 +20,7 @@ class Grove : public Mox::Entity {
   class NotifieeConst;
   class Notifiee;
   class _Type;
+  class GenericIf_;
   struct Tags;
 
   /// A node of `tree`.

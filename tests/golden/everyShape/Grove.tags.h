@@ -21,6 +21,8 @@ struct Grove::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onTree;
     static auto& map(Owner& owner) { return owner.tree_; }
     static auto const& map(Owner const& owner) { return owner.tree_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.tree(key); }
+    static void erase(Owner& owner, Key const& key) { owner.treeDel(key); }
     static Child* childOf(Node& node) { return node.value().ptr(); }
     static Mox::Ptr<Node> nodeFor(Mox::Ptr<Child> const& child) {
       return new Node(child->name(), child);
@@ -40,6 +42,11 @@ struct Grove::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onRow;
     static auto& map(Owner& owner) { return owner.row_; }
     static auto const& map(Owner const& owner) { return owner.row_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.row(key); }
+    static void erase(Owner& owner, Key const& key) { owner.rowDel(key); }
+    static void write(Owner& owner, Key const& key, Value const& target) {
+      owner.rowIs(key, target);
+    }
   };
 
   struct Brook {
@@ -76,6 +83,11 @@ struct Grove::Tags {
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onByLevel;
     static auto& map(Owner& owner) { return owner.byLevel_; }
     static auto const& map(Owner const& owner) { return owner.byLevel_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.byLevel(key); }
+    static void erase(Owner& owner, Key const& key) { owner.byLevelDel(key); }
+    static void write(Owner& owner, Key const& key, Value const& value) {
+      owner.byLevelIs(key, value);
+    }
   };
 };
 

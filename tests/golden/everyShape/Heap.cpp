@@ -2,16 +2,12 @@
 #include "everyShape/Heap.h"
 
 #include "everyShape/Heap.tags.h"
+#include "everyShape/Heap.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/Map.h"
 
 namespace everyShape {
-
-class Heap::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Heap", nullptr, nullptr, {}) {}
-};
 
 namespace {
 

@@ -16,6 +16,11 @@ struct Heap::Tags {
     using Node = MoxItem;
     static auto& map(Owner& owner) { return owner.item_; }
     static auto const& map(Owner const& owner) { return owner.item_; }
+    static auto read(Owner const& owner, Key const& key) { return owner.item(key); }
+    static void erase(Owner& owner, Key const& key) { owner.itemDel(key); }
+    static void write(Owner& owner, Key const& key, Value const& value) {
+      owner.itemIs(key, value);
+    }
   };
 };
 

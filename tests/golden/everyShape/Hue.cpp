@@ -1,16 +1,12 @@
 // everyShape::Hue: one line for each operation.  Made by schemac from everyShape.schema.
 #include "everyShape/Hue.h"
 
+#include "everyShape/Hue.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/SingleField.h"
 
 namespace everyShape {
-
-class Hue::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Hue", nullptr, nullptr, {}) {}
-};
 
 namespace {
 

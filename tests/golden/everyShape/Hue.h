@@ -11,6 +11,7 @@ namespace everyShape {
 class Hue {
  public:
   class _Type;
+  class GenericIf_;
 
   Hue() = default;
   explicit Hue(U16 number);

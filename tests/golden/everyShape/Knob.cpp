@@ -2,15 +2,11 @@
 #include "everyShape/Knob.h"
 
 #include "everyShape/Knob.tags.h"
+#include "everyShape/Knob.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 
 namespace everyShape {
-
-class Knob::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Knob", nullptr, nullptr, {}) {}
-};
 
 namespace {
 

@@ -11,6 +11,7 @@ namespace everyShape {
 class Knob {
  public:
   class _Type;
+  class GenericIf_;
   struct Fields;
   struct Tags;
 

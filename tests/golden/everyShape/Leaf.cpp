@@ -2,17 +2,13 @@
 #include "everyShape/Leaf.h"
 
 #include "everyShape/Leaf.tags.h"
+#include "everyShape/Leaf.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/Observe.h"
 #include "frame/Scalar.h"
 
 namespace everyShape {
-
-class Leaf::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Leaf", nullptr, Mox::Entity::_fwkType(), {}) {}
-};
 
 namespace {
 

@@ -15,6 +15,7 @@ class Leaf : public Mox::Entity {
   class NotifieeConst;
   class Notifiee;
   class _Type;
+  class GenericIf_;
   struct Tags;
 
   Leaf(Mox::Name const& name, U8 lane, Mix mix);

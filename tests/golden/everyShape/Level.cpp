@@ -1,16 +1,12 @@
 // everyShape::Level: one line for each operation.  Made by schemac from everyShape.schema.
 #include "everyShape/Level.h"
 
+#include "everyShape/Level.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/SingleField.h"
 
 namespace everyShape {
-
-class Level::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Level", nullptr, nullptr, {}) {}
-};
 
 namespace {
 

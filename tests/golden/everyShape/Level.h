@@ -11,6 +11,7 @@ namespace everyShape {
 class Level {
  public:
   class _Type;
+  class GenericIf_;
 
   Level() = default;
   /// A number above 9 raises `RangeException` "Level::value < 0 or > 9 not allowed".

@@ -2,15 +2,11 @@
 #include "everyShape/Mix.h"
 
 #include "everyShape/Mix.tags.h"
+#include "everyShape/Mix.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 
 namespace everyShape {
-
-class Mix::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Mix", nullptr, nullptr, {}) {}
-};
 
 namespace {
 

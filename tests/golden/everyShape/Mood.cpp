@@ -1,8 +1,10 @@
 // everyShape::Mood: its names, and look-ups in them.  Made by schemac from everyShape.schema.
 #include "everyShape/Mood.h"
 
+#include "everyShape/Mood.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Enumeration.h"
+#include "reflect/Enumeration.h"
 
 namespace everyShape {
 
@@ -18,6 +20,12 @@ constexpr frame::EnumTable table{"Mood", names};
 class Type : public Mox::MoxType {
  public:
   Type() : MoxType("Mood", nullptr, nullptr, {}) {}
+  Mox::GenericIf::Ptr genericIf(void const* value,
+      bool isConst) const override {
+      return reflect::active(new Mood_GenericIf_(*static_cast<Mood const*>(value), isConst)); }
+  Mox::GenericIf::Ptr genericIf(Mox::String8 const& text,
+      bool isConst) const override {
+      return reflect::active(new Mood_GenericIf_(Mox::strepToValue<Mood>(text), isConst)); }
 };
 
 Mox::MoxType* moodType = nullptr;
@@ -47,5 +55,20 @@ Mood sequenceToValue(Mox::String8::IteratorConst& at, Mox::String8::IteratorCons
   return Mox::storedValue(static_cast<Mood>(frame::enumParse(table, at, end)), to);
 }
 std::ostream& operator<<(std::ostream& out, Mood const& value) { return out << stringValue(value); }
+
+Mood_GenericIf_::Mood_GenericIf_(Mood value, bool isConst) : GenericIf(_fwkType_Mood(), isConst),
+    value_(value) {
+  heldIs(&value_);
+}
+Mox::GenericIf::Ptr Mood_GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
+    PtrConst const&) {
+  requireWritable(op);
+  reflect::requireEnumeratorRead("Mood", op, index);
+  return clone();
+}
+Mox::GenericIf::Ptr Mood_GenericIf_::clone() {
+  return reflect::active(new Mood_GenericIf_(value_, isConst()));
+}
+Mox::String8 Mood_GenericIf_::strRep() const { return valueToStrep(value_); }
 
 }  // namespace everyShape

@@ -1,16 +1,12 @@
 // everyShape::Shade: one line for each operation.  Made by schemac from everyShape.schema.
 #include "everyShape/Shade.h"
 
+#include "everyShape/Shade.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/SingleField.h"
 
 namespace everyShape {
-
-class Shade::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Shade", nullptr, Hue::_fwkType(), {}) {}
-};
 
 namespace {
 

@@ -12,6 +12,7 @@ namespace everyShape {
 class Shade : public Hue {
  public:
   class _Type;
+  class GenericIf_;
 
   Shade() = default;
   /// A number above 359 raises `RangeException` "Shade::value < 0 or > 359 not allowed".

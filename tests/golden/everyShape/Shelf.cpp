@@ -2,16 +2,12 @@
 #include "everyShape/Shelf.h"
 
 #include "everyShape/Shelf.tags.h"
+#include "everyShape/Shelf.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/Map.h"
 
 namespace everyShape {
-
-class Shelf::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Shelf", nullptr, Mox::MoxType::opaque("Mox::PtrInterface"), {}) {}
-};
 
 namespace {
 

@@ -13,6 +13,7 @@ class Shelf : public Mox::PtrInterface {
   using PtrConst = Mox::Ptr<Shelf const>;
 
   class _Type;
+  class GenericIf_;
   struct Tags;
 
   /// A node of `books`.

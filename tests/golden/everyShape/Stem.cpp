@@ -2,6 +2,7 @@
 #include "everyShape/Stem.h"
 
 #include "everyShape/Stem.tags.h"
+#include "everyShape/Stem.reflect.h"
 #include "everyShape/EveryShape.module.h"
 #include "frame/Descriptor.h"
 #include "frame/Observe.h"
@@ -10,11 +11,6 @@
 #include "frame/Ref.h"
 
 namespace everyShape {
-
-class Stem::_Type : public Mox::MoxType {
- public:
-  _Type() : MoxType("Stem", nullptr, Mox::Entity::_fwkType(), {}) {}
-};
 
 namespace {
 

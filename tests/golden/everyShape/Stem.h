@@ -15,6 +15,7 @@ class Stem : public Mox::Entity {
   class NotifieeConst;
   class Notifiee;
   class _Type;
+  class GenericIf_;
   struct Tags;
 
   explicit Stem(U16 port);

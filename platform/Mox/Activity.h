@@ -1,0 +1,50 @@
+// Activities: what runs notifiees later, in batches, instead of at once.
+#pragma once
+
+#include "Mox/Name.h"
+#include "Mox/Notifiee.h"
+
+#include <deque>
+
+namespace Mox {
+
+/// The queue of one activity: notifiees that have something to tell, in the order in which they
+/// came.  It is run by the owner's loop, on the thread that the notifiees belong to.
+class ActivitySm : public PtrInterface {
+ public:
+  explicit ActivitySm(ActivityConfig* config) : config_(config) {}
+
+  /// Enters a notifiee behind the others; it is held until it has run.
+  void enq(Ptr<PtrInterface::NotifieeConst> const& notifiee);
+  /// Runs the first one's `handleNotification`; false, and nothing done, with none left.  One that
+  /// nobody else holds any more is dropped.  What it raises ends in its
+  /// `onNotificationException()`.
+  bool runOne();
+  /// Runs until none is left, also of those that come meanwhile, and tells how many ran.
+  U32 run();
+  /// Runs those that wait now, for one that is in the middle of its own run.  Does nothing inside
+  /// of another yield: the depth of calls stays bounded.
+  void yield();
+  /// Notifiees that wait.
+  U32 waiting() const noexcept { return static_cast<U32>(queue_.size()); }
+
+ private:
+  ActivityConfig* config_;  // owns this
+  std::deque<Ptr<PtrInterface::NotifieeConst>> queue_;
+  bool yielding_ = false;
+};
+
+/// One activity: its name, and its queue.
+class ActivityConfig : public PtrInterface {
+ public:
+  explicit ActivityConfig(Name const& name) : name_(name), activitySm_(new ActivitySm(this)) {}
+
+  Name const& name() const noexcept { return name_; }
+  ActivitySm* activitySm() const noexcept { return activitySm_.ptr(); }
+
+ private:
+  Name name_;
+  Ptr<ActivitySm> activitySm_;
+};
+
+}  // namespace Mox

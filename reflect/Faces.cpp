@@ -1,0 +1,25 @@
+// From values, objects and entities to their interfaces, and back.
+#include "reflect/Faces.h"
+
+namespace reflect {
+
+GenericIf::Ptr active(GenericIf* made) {
+  GenericIf::Ptr const face = made;
+  face->hasNotificationActiveIs(true);
+  return face;
+}
+
+GenericIf::Ptr faceOf(Mox::PtrInterface const* target, Mox::MoxType const* declared, bool isConst) {
+  // Who reads through a constant interface gets one.
+  auto* const object = const_cast<Mox::PtrInterface*>(target);
+  return (object ? object->fwkType() : declared)->genericIf_(object, isConst);
+}
+
+GenericIf::Ptr owningFaceOf(Mox::Entity* made) {
+  Mox::Ptr<Mox::Entity> const entity = made;
+  auto const face = faceOf(made, made->fwkType(), false);
+  face->isWeakReferenceIs(false);
+  return face;
+}
+
+}  // namespace reflect

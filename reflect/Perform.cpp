@@ -1,0 +1,98 @@
+// What is asked of an attribute, done by its row.
+#include "reflect/Perform.h"
+
+#include "Mox/Exception.h"
+#include "reflect/Arguments.h"
+
+namespace reflect {
+
+namespace {
+
+void const* keyOf(Row const& row, GenericIf::PtrConst const& index) {
+  return GenericIf::requireHeld(index, row.key(), row.name);
+}
+
+void const* valueOf(Row const& row, GenericIf::PtrConst const& value) {
+  return GenericIf::requireHeld(value, row.type(), row.name);
+}
+
+void writeElement(Row const& row, Target const& target, GenericIf::PtrConst const& index,
+                  GenericIf::PtrConst const& value) {
+  Collection const& collection = *row.collection;
+  if (collection.write) {
+    void const* const key = keyOf(row, index);
+    return collection.write(target.object, key, valueOf(row, value));
+  }
+  if (!collection.enter)
+    GenericIf::throwOpNotSupportedException(row.name, GenericIf::opWrite, false);
+  // The element bears its key.
+  if (index) GenericIf::throwBadIndexAttrException(row.name);
+  collection.enter(target.object, valueOf(row, value));
+}
+
+GenericIf::Ptr performOnCollection(Row const& row, Target const& target, GenericIf::OpId op,
+                                   GenericIf::PtrConst const& index,
+                                   GenericIf::PtrConst const& value) {
+  Collection const& collection = *row.collection;
+  switch (op) {
+    case GenericIf::opRead:
+      return collection.read(row, target, keyOf(row, index));
+    case GenericIf::opCount:
+      return Mox::primitiveIf(collection.count(target.object), target.isConst);
+    case GenericIf::opChanges:
+      return Mox::primitiveIf(collection.changes(target.object), target.isConst);
+    case GenericIf::opIsMember:
+      return Mox::primitiveIf(collection.isMember(target.object, keyOf(row, index)),
+                              target.isConst);
+    case GenericIf::opWrite:
+      writeElement(row, target, index, value);
+      return nullptr;
+    case GenericIf::opErase:
+      collection.erase(target.object, keyOf(row, index));
+      return nullptr;
+    default:
+      GenericIf::throwOpNotSupportedException(row.name, op, false);
+  }
+}
+
+}  // namespace
+
+void requireNotNull(Mox::PtrInterface const* object, GenericIf const& face) {
+  if (!object) Mox::throwRangeException("null " + face.type()->moxName().stringValue());
+}
+
+GenericIf::Ptr perform(Row const& row, Target const& target, GenericIf::OpId op,
+                       GenericIf::PtrConst const& index, GenericIf::PtrConst const& value) {
+  if (row.collection) return performOnCollection(row, target, op, index, value);
+  if (index) GenericIf::throwBadIndexAttrException(row.name);
+  if (op == GenericIf::opRead && row.read) return row.read(row, target);
+  if (op == GenericIf::opWrite && row.write) {
+    row.write(target.object, valueOf(row, value));
+    return nullptr;
+  }
+  if (op == GenericIf::opWrite && row.call) {
+    Arguments const arguments(row, value);
+    return row.call(row, target, arguments.held());
+  }
+  GenericIf::throwOpNotSupportedException(row.name, op, false);
+}
+
+GenericIf::Ptr performInBase(GenericIf const& face, void const* held, GenericIf::AttributeOp op,
+                             GenericIf::PtrConst const& index, GenericIf::PtrConst const& value) {
+  Mox::MoxType const& type = *face.type();
+  if (!type.attributeById(op.attrId))
+    GenericIf::throwUnknownAttrException(type.moxName().stringValue());
+  return type.base()->genericIf(held, face.isConst())->attributeOp(op, index, value);
+}
+
+GenericIf::AttributeIteratorConst walk(GenericIf const& face, Row const& row,
+                                       Target const& target) {
+  return {&face, row.collection->walk(row, target, nullptr)};
+}
+
+GenericIf::AttributeIteratorConst walk(GenericIf const& face, Row const& row, Target const& target,
+                                       GenericIf::PtrConst const& key) {
+  return {&face, row.collection->walk(row, target, keyOf(row, key))};
+}
+
+}  // namespace reflect

@@ -1,0 +1,73 @@
+// The tables that say how each attribute of one class is reached by its number.
+#pragma once
+
+#include "Mox/Builtin.h"
+#include "frame/Descriptor.h"
+
+#include <span>
+
+namespace reflect {
+
+using Mox::GenericIf;
+
+/// Whose attribute is asked for: an entity, an object, or the copy that a value's interface holds.
+struct Target {
+  void* object;
+  /// What keeps the object while an iterator stands in it.
+  Mox::PtrInterface const* keeper;
+  bool isConst;
+};
+
+struct Row;
+
+/// The typed steps of a collection.  Keys and values come as addresses of what interfaces hold.
+struct Collection {
+  U32 (*count)(void const* object);
+  U32 (*changes)(void const* object);
+  bool (*isMember)(void const* object, void const* key);
+  GenericIf::Ptr (*read)(Row const& row, Target const& target, void const* key);
+  void (*write)(void* object, void const* key, void const* value);  ///< null: not by key
+  void (*enter)(void* object, void const* value);                   ///< null: not by its own key
+  void (*erase)(void* object, void const* key);
+  /// A walk from `key` on, or from the start for null.
+  Mox::Ptr<GenericIf::IteratorState> (*walk)(Row const& row, Target const& target, void const* key);
+};
+
+/// One argument of an operation or a constructor.
+struct Argument {
+  char const* name;
+  frame::TypeOf type;
+};
+
+/// One attribute.  What it can't do has no step; `fwkKey` and its like have none at all.
+struct Row {
+  Mox::AttributeId id;
+  char const* name;
+  frame::TypeOf type = nullptr;  ///< of the value, or of an operation's result
+  frame::TypeOf key = nullptr;   ///< of a collection's keys
+  GenericIf::Ptr (*read)(Row const& row, Target const& target) = nullptr;
+  void (*write)(void* object, void const* value) = nullptr;
+  Collection const* collection = nullptr;
+  GenericIf::Ptr (*call)(Row const& row, Target const& target,
+                         void const* const* arguments) = nullptr;
+  std::span<Argument const> arguments = {};
+};
+
+/// The attribute of that number; null where there is none.  A table begins with its densest run,
+/// in which the place tells.
+inline Row const* rowOf(std::span<Row const> rows, Mox::AttributeId id) {
+  std::size_t const place = id - rows.front().id;
+  if (place < rows.size() && rows[place].id == id) [[likely]]
+    return &rows[place];
+  for (Row const& row : rows)
+    if (row.id == id) return &row;
+  return nullptr;
+}
+
+/// The same, of collections alone.
+inline Row const* collectionOf(std::span<Row const> rows, Mox::AttributeId id) {
+  Row const* const row = rowOf(rows, id);
+  return row && row->collection ? row : nullptr;
+}
+
+}  // namespace reflect

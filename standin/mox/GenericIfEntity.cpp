@@ -1,0 +1,65 @@
+// Interfaces of entities: the weak hold, and the batches of changes.
+#include "Mox/GenericIfEntity.h"
+
+#include "Mox/MoxType.h"
+#include "Mox/Strep.h"
+
+namespace Mox {
+
+GenericIfEntity::GenericIfEntity(Mox::Ptr<Entity> const& entity, MoxType const* type, bool isConst)
+    : GenericIf(type, isConst) {
+  heldIs(&moxNotifierWord());
+  isWeakReferenceIs(true);
+  GenericIfEntity::notifierIs(entity);
+}
+
+// The base drops the reference that a strong observer has.
+GenericIfEntity::~GenericIfEntity() { isWeakReferenceIs(false); }
+
+void GenericIfEntity::notifierIs(Mox::Ptr<PtrInterface const> const& notifier) {
+  bool const weak = isWeakReference();
+  isWeakReferenceIs(false);
+  GenericIf::notifierIs(ptrCast<Entity const>(notifier));
+  isWeakReferenceIs(weak);
+  moxRegisteredIs(false);  // only its adapters stand in the entity's list
+}
+
+void GenericIfEntity::onZeroReferences() { notifierIs(nullptr); }
+
+Name GenericIfEntity::name() const { return entity() ? entity()->name() : Name(); }
+
+ActivitySm* GenericIfEntity::actsm() { return activity_ ? activity_->activitySm() : nullptr; }
+
+String8 GenericIfEntity::strRep() const { return valueToStrepOfRawPtr(entity(), typeid(Entity)); }
+
+void GenericIfEntity::handleNotification(ActivityConfig*) { notification_ = nothing; }
+
+void GenericIfEntity::onAttribute(AttributeId id) { onAttribute(id, nullptr); }
+
+void GenericIfEntity::onAttribute(AttributeId id, PtrConst const& key) {
+  // The watcher may let go of itself, and of this interface.
+  Mox::Ptr<GenericIfEntity> const self = this;
+  Mox::Ptr<Watcher> const watcher = watcher_;
+  if (watcher) watcher->onAttribute(*this, id, key);
+}
+
+bool GenericIfEntity::moxOnAttribute(AttributeId id, U8* pending) {
+  constexpr U8 most = 255;
+  if (!activity_ || telling_) return false;
+  if (pending && *pending < most) ++*pending;
+  auto const changed = static_cast<S32>(id);
+  bool const first = notification_ == nothing;
+  collectionsAlone_ = pending && (first || collectionsAlone_);
+  if (first)
+    notification_ = changed;
+  else if (notification_ != changed)
+    notification_ = collectionsAlone_ ? allCollections : all;
+  if (first) activity_->activitySm()->enq(this);
+  return true;
+}
+
+void GenericIfEntity::redispatch(ActivitySm* activity) {
+  if (activity) activity->yield();
+}
+
+}  // namespace Mox

@@ -1,0 +1,85 @@
+// everyShape::Brook by attribute number: one line for each operation.  Made by schemac from everyShape.schema.
+#include "everyShape/Brook.reflect.h"
+
+#include "everyShape/Brook.tags.h"
+#include "reflect/Arguments.h"
+#include "reflect/Perform.h"
+#include "reflect/Steps.h"
+
+namespace everyShape {
+
+struct Brook::GenericIf_::Table {
+  static constexpr reflect::Row rows[] = {
+      {.id = 258, .name = "grove", .type = Grove::_fwkType, .read = reflect::read<&Brook::grove>,
+          .write = reflect::write<&Brook::groveIs>},
+      {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
+          .read = reflect::read<&Brook::moxHasAttrLogInterface>},
+  };
+  static constexpr reflect::Told told[] = {
+      {258, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onGrove(); }},
+  };
+};
+
+Mox::GenericIf::Ptr Brook::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
+  return reflect::active(new GenericIf_(reflect::requireObject<Brook>(object), isConst));
+}
+
+Brook::GenericIf_::GenericIf_(Mox::Ptr<Brook> const& object, bool isConst) : GenericIf_(object,
+    Brook::_fwkType(), isConst) {}
+Brook::GenericIf_::GenericIf_(Mox::Ptr<Brook> const& object, Mox::MoxType const* type,
+    bool isConst) : Base(object, type, isConst) {
+  adapter_ = frame::adapterFor<GenericIf_Adapter_>(object.ptr(), this);
+}
+Brook::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
+
+Mox::Ptr<Brook> Brook::GenericIf_::obj() const { return static_cast<Brook*>(entity()); }
+reflect::Target Brook::GenericIf_::target() const {
+  return reflect::targetOf<Brook>(entity(), *this);
+}
+
+Mox::GenericIf::Ptr Brook::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
+    PtrConst const& value) {
+  requireWritable(op);
+  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  return row ? reflect::perform(*row, target(), op.opId, index, value) : Base::attributeOp(op,
+      index, value);
+}
+Mox::GenericIf::AttributeIteratorConst Brook::GenericIf_::attributeIteratorConst(
+    Mox::AttributeId id) const {
+  auto const* const row = reflect::collectionOf(Table::rows, id);
+  return row ? reflect::walk(*this, *row, target()) : Base::attributeIteratorConst(id);
+}
+Mox::GenericIf::AttributeIteratorConst Brook::GenericIf_::attributeIteratorKeyConst(
+    Mox::AttributeId id, PtrConst const& key) const {
+  auto const* const row = reflect::collectionOf(Table::rows, id);
+  return row ? reflect::walk(*this, *row, target(), key) : Base::attributeIteratorKeyConst(id, key);
+}
+Mox::GenericIf::Ptr Brook::GenericIf_::clone() {
+  return reflect::active(new GenericIf_(obj(), isConst()));
+}
+
+void Brook::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
+  reflect::handleNotification(*this, Table::told,
+      [](Mox::GenericIfEntity& face,
+      Mox::ActivityConfig* activity) {
+      static_cast<GenericIf_&>(face).Base::handleNotification(activity); }, activity);
+}
+void Brook::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
+  auto const own = Mox::ptrCast<Brook const>(notifier);
+  adapter_->notifierIs(own);
+  Base::notifierIs(own);
+}
+void Brook::GenericIf_::moxDoZombieReactors(bool zombie) {
+  if (zombie == moxMarkedForDeletion()) return;
+  Base::moxDoZombieReactors(zombie);
+  adapter_->moxDoZombieReactors(zombie);
+}
+void Brook::GenericIf_::hasNotificationActiveIs(bool active) {
+  if (active == hasNotificationActive()) return;
+  Base::hasNotificationActiveIs(active);
+  if (adapter_) adapter_->hasNotificationActiveIs(active);
+}
+
+void Brook::GenericIf_::onGrove() { reflect::changed(*this, 258); }
+
+}  // namespace everyShape

@@ -1,0 +1,98 @@
+// everyShape::Derived by attribute number: one line for each operation.  Made by schemac from everyShape.schema.
+#include "everyShape/Derived.reflect.h"
+
+#include "everyShape/Derived.tags.h"
+#include "reflect/Arguments.h"
+#include "reflect/Perform.h"
+#include "reflect/Steps.h"
+#include "reflect/Walk.h"
+
+namespace everyShape {
+
+struct Derived::GenericIf_::Table {
+  static constexpr reflect::Row rows[] = {
+      {.id = 386, .name = "extra", .type = Mox::Builtin<U32>::_fwkType,
+          .read = reflect::read<&Derived::extra>, .write = reflect::write<&Derived::extraIs>},
+      {.id = 387, .name = "marks", .type = Mox::Builtin<bool>::_fwkType,
+          .key = Mox::Builtin<U8>::_fwkType,
+          .collection = &reflect::collection<Derived::Tags::Marks>},
+      {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
+          .read = reflect::read<&Derived::moxHasAttrLogInterface>},
+  };
+  static constexpr reflect::Told told[] = {
+      {386, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onExtra(); }},
+      {387, true, [](Mox::GenericIfEntity& face) {
+        auto& own = static_cast<GenericIf_&>(face);
+        if (auto const* const key = reflect::onlyKey(own, 387,
+            own.adapter_->marksPending)) own.onMarks(*key);
+      }},
+  };
+};
+
+Mox::GenericIf::Ptr Derived::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
+  return reflect::active(new GenericIf_(reflect::requireObject<Derived>(object), isConst));
+}
+
+Derived::GenericIf_::GenericIf_(Mox::Ptr<Derived> const& object, bool isConst) : GenericIf_(object,
+    Derived::_fwkType(), isConst) {}
+Derived::GenericIf_::GenericIf_(Mox::Ptr<Derived> const& object, Mox::MoxType const* type,
+    bool isConst) : Base(object, type, isConst) {
+  adapter_ = frame::adapterFor<GenericIf_Adapter_>(object.ptr(), this);
+}
+Derived::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
+
+Mox::Ptr<Derived> Derived::GenericIf_::obj() const { return static_cast<Derived*>(entity()); }
+reflect::Target Derived::GenericIf_::target() const {
+  return reflect::targetOf<Derived>(entity(), *this);
+}
+
+Mox::GenericIf::Ptr Derived::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
+    PtrConst const& value) {
+  requireWritable(op);
+  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  return row ? reflect::perform(*row, target(), op.opId, index, value) : Base::attributeOp(op,
+      index, value);
+}
+Mox::GenericIf::AttributeIteratorConst Derived::GenericIf_::attributeIteratorConst(
+    Mox::AttributeId id) const {
+  auto const* const row = reflect::collectionOf(Table::rows, id);
+  return row ? reflect::walk(*this, *row, target()) : Base::attributeIteratorConst(id);
+}
+Mox::GenericIf::AttributeIteratorConst Derived::GenericIf_::attributeIteratorKeyConst(
+    Mox::AttributeId id, PtrConst const& key) const {
+  auto const* const row = reflect::collectionOf(Table::rows, id);
+  return row ? reflect::walk(*this, *row, target(), key) : Base::attributeIteratorKeyConst(id, key);
+}
+Mox::GenericIf::Ptr Derived::GenericIf_::clone() {
+  return reflect::active(new GenericIf_(obj(), isConst()));
+}
+
+void Derived::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
+  reflect::handleNotification(*this, Table::told,
+      [](Mox::GenericIfEntity& face,
+      Mox::ActivityConfig* activity) {
+      static_cast<GenericIf_&>(face).Base::handleNotification(activity); }, activity);
+}
+void Derived::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
+  auto const own = Mox::ptrCast<Derived const>(notifier);
+  adapter_->notifierIs(own);
+  Base::notifierIs(own);
+}
+void Derived::GenericIf_::moxDoZombieReactors(bool zombie) {
+  if (zombie == moxMarkedForDeletion()) return;
+  Base::moxDoZombieReactors(zombie);
+  adapter_->moxDoZombieReactors(zombie);
+}
+void Derived::GenericIf_::hasNotificationActiveIs(bool active) {
+  if (active == hasNotificationActive()) return;
+  Base::hasNotificationActiveIs(active);
+  if (adapter_) adapter_->hasNotificationActiveIs(active);
+}
+
+void Derived::GenericIf_::onExtra() { reflect::changed(*this, 386); }
+void Derived::GenericIf_::onMarks(U8 key) {
+  reflect::changed(*this, 387, adapter_->marksPending, key, Mox::Builtin<U8>::_fwkType);
+}
+void Derived::GenericIf_::onMarks() { onAttribute(387); }
+
+}  // namespace everyShape

@@ -1,0 +1,51 @@
+// everyShape::Dial by attribute number: one line for each operation.  Made by schemac from everyShape.schema.
+#include "everyShape/Dial.reflect.h"
+
+#include "reflect/Arguments.h"
+#include "reflect/Perform.h"
+#include "reflect/Steps.h"
+
+namespace everyShape {
+
+struct Dial::GenericIf_::Table {
+  static constexpr reflect::Row rows[] = {
+      {.id = 2, .name = "value", .type = Mox::Builtin<U32>::_fwkType,
+          .read = reflect::read<&Dial::value>, .write = reflect::construct<Dial, U32>},
+      {.id = 3, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
+          .read = reflect::read<&Dial::hash>},
+  };
+};
+
+Mox::GenericIf::Ptr Dial::_Type::genericIf(void const* value, bool isConst) const {
+  return reflect::active(new GenericIf_(*static_cast<Dial const*>(value), isConst));
+}
+Mox::GenericIf::Ptr Dial::_Type::genericIf(Mox::String8 const& text, bool isConst) const {
+  return reflect::active(new GenericIf_(Mox::strepToValue<Dial>(text), isConst));
+}
+
+Dial::GenericIf_::GenericIf_(Dial const& value, bool isConst) : GenericIf(Dial::_fwkType(),
+    isConst), value_(value) {
+  heldIs(&value_);
+}
+reflect::Target Dial::GenericIf_::target() const {
+  return {const_cast<Dial*>(&value_), this, isConst()};
+}
+
+Mox::GenericIf::Ptr Dial::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
+    PtrConst const& value) {
+  requireWritable(op);
+  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  if (!row) throwUnknownAttrException("Dial");
+  return reflect::perform(*row, target(), op.opId, index, value);
+}
+Mox::GenericIf::Ptr Dial::GenericIf_::clone() {
+  return reflect::active(new GenericIf_(value_, isConst()));
+}
+Mox::GenericIf::Ptr Dial::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
+  Dial made;
+  reflect::assignFields(Table::rows, list, &made, "Dial");
+  return reflect::active(new GenericIf_(made, false));
+}
+Mox::String8 Dial::GenericIf_::strRep() const { return valueToStrep(value_); }
+
+}  // namespace everyShape

@@ -1,0 +1,34 @@
+// everyShape::Dial by attribute number: its interface, and its descriptor.  Made by schemac from everyShape.schema.
+#pragma once
+
+#include "everyShape/Dial.h"
+#include "reflect/Row.h"
+
+namespace everyShape {
+
+class Dial::_Type : public Mox::MoxType {
+ public:
+  _Type() : MoxType("Dial", nullptr, nullptr, {}) {}
+  Mox::GenericIf::Ptr genericIf(void const* value, bool isConst) const override;
+  Mox::GenericIf::Ptr genericIf(Mox::String8 const& text, bool isConst) const override;
+};
+
+class Dial::GenericIf_ : public Mox::GenericIf {
+ public:
+  GenericIf_(Dial const& value, bool isConst);
+
+  Ptr attributeOp(AttributeOp op, PtrConst const& index, PtrConst const& value) override;
+  using GenericIf::clone;
+  Ptr clone() override;
+  Ptr genericIfListConstructor(PtrConst const& list) const override;
+  Mox::String8 strRep() const override;
+
+ private:
+  using Base = Mox::GenericIf;
+  struct Table;
+  reflect::Target target() const;
+
+  Dial value_;
+};
+
+}  // namespace everyShape

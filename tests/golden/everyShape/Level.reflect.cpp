@@ -1,0 +1,51 @@
+// everyShape::Level by attribute number: one line for each operation.  Made by schemac from everyShape.schema.
+#include "everyShape/Level.reflect.h"
+
+#include "reflect/Arguments.h"
+#include "reflect/Perform.h"
+#include "reflect/Steps.h"
+
+namespace everyShape {
+
+struct Level::GenericIf_::Table {
+  static constexpr reflect::Row rows[] = {
+      {.id = 2, .name = "value", .type = Mox::Builtin<U8>::_fwkType,
+          .read = reflect::read<&Level::value>, .write = reflect::construct<Level, U8>},
+      {.id = 3, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
+          .read = reflect::read<&Level::hash>},
+  };
+};
+
+Mox::GenericIf::Ptr Level::_Type::genericIf(void const* value, bool isConst) const {
+  return reflect::active(new GenericIf_(*static_cast<Level const*>(value), isConst));
+}
+Mox::GenericIf::Ptr Level::_Type::genericIf(Mox::String8 const& text, bool isConst) const {
+  return reflect::active(new GenericIf_(Mox::strepToValue<Level>(text), isConst));
+}
+
+Level::GenericIf_::GenericIf_(Level const& value, bool isConst) : GenericIf(Level::_fwkType(),
+    isConst), value_(value) {
+  heldIs(&value_);
+}
+reflect::Target Level::GenericIf_::target() const {
+  return {const_cast<Level*>(&value_), this, isConst()};
+}
+
+Mox::GenericIf::Ptr Level::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
+    PtrConst const& value) {
+  requireWritable(op);
+  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  if (!row) throwUnknownAttrException("Level");
+  return reflect::perform(*row, target(), op.opId, index, value);
+}
+Mox::GenericIf::Ptr Level::GenericIf_::clone() {
+  return reflect::active(new GenericIf_(value_, isConst()));
+}
+Mox::GenericIf::Ptr Level::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
+  Level made;
+  reflect::assignFields(Table::rows, list, &made, "Level");
+  return reflect::active(new GenericIf_(made, false));
+}
+Mox::String8 Level::GenericIf_::strRep() const { return valueToStrep(value_); }
+
+}  // namespace everyShape

@@ -1,0 +1,50 @@
+// everyShape::Shade by attribute number: one line for each operation.  Made by schemac from everyShape.schema.
+#include "everyShape/Shade.reflect.h"
+
+#include "reflect/Arguments.h"
+#include "reflect/Perform.h"
+#include "reflect/Steps.h"
+
+namespace everyShape {
+
+struct Shade::GenericIf_::Table {
+  static constexpr reflect::Row rows[] = {
+      {.id = 2, .name = "value", .type = Mox::Builtin<U16>::_fwkType,
+          .read = reflect::read<&Shade::value>, .write = reflect::construct<Shade, U16>},
+  };
+};
+
+Mox::GenericIf::Ptr Shade::_Type::genericIf(void const* value, bool isConst) const {
+  return reflect::active(new GenericIf_(*static_cast<Shade const*>(value), isConst));
+}
+Mox::GenericIf::Ptr Shade::_Type::genericIf(Mox::String8 const& text, bool isConst) const {
+  return reflect::active(new GenericIf_(Mox::strepToValue<Shade>(text), isConst));
+}
+
+Shade::GenericIf_::GenericIf_(Shade const& value, bool isConst) : GenericIf(Shade::_fwkType(),
+    isConst), value_(value) {
+  heldIs(&value_);
+}
+reflect::Target Shade::GenericIf_::target() const {
+  return {const_cast<Shade*>(&value_), this, isConst()};
+}
+
+Mox::GenericIf::Ptr Shade::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
+    PtrConst const& value) {
+  requireWritable(op);
+  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  if (!row) return reflect::performInBase(*this, static_cast<Hue const*>(&value_), op, index,
+      value);
+  return reflect::perform(*row, target(), op.opId, index, value);
+}
+Mox::GenericIf::Ptr Shade::GenericIf_::clone() {
+  return reflect::active(new GenericIf_(value_, isConst()));
+}
+Mox::GenericIf::Ptr Shade::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
+  Shade made;
+  reflect::assignFields(Table::rows, list, &made, "Shade");
+  return reflect::active(new GenericIf_(made, false));
+}
+Mox::String8 Shade::GenericIf_::strRep() const { return valueToStrep(value_); }
+
+}  // namespace everyShape

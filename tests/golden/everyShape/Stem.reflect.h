@@ -1,0 +1,68 @@
+// everyShape::Stem by attribute number: its interface, and its descriptor.  Made by schemac from everyShape.schema.
+#pragma once
+
+#include "everyShape/Stem.h"
+#include "frame/Adapter.h"
+#include "reflect/Batch.h"
+#include "reflect/Row.h"
+
+namespace everyShape {
+
+class Stem::_Type : public Mox::MoxType {
+ public:
+  _Type() : MoxType("Stem", nullptr, Mox::Entity::_fwkType(), {}) {}
+  using MoxType::genericIf_;
+  Mox::GenericIf::Ptr genericIf_(Mox::PtrInterface* object, bool isConst) const override;
+};
+
+class Stem::GenericIf_ : public Mox::GenericIfEntity {
+ public:
+  class GenericIf_Adapter_;
+
+  GenericIf_(Mox::Ptr<Stem> const& object, bool isConst);
+  ~GenericIf_() override;
+
+  /// The entity; null once it has gone.
+  Mox::Ptr<Stem> obj() const;
+
+  Ptr attributeOp(AttributeOp op, PtrConst const& index, PtrConst const& value) override;
+  AttributeIteratorConst attributeIteratorConst(Mox::AttributeId id) const override;
+  AttributeIteratorConst attributeIteratorKeyConst(Mox::AttributeId id,
+      PtrConst const& key) const override;
+  using GenericIf::clone;
+  Ptr clone() override;
+  Ptr genericIfListConstructor(PtrConst const& list) const override;
+  void handleNotification(Mox::ActivityConfig* activity) override;
+  void notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) override;
+  void moxDoZombieReactors(bool zombie) override;
+  void hasNotificationActiveIs(bool active) override;
+
+  /// Tells of a change: at once, or in the next batch.
+  virtual void onGirth();
+  /// Tells of a change: at once, or in the next batch.
+  virtual void onRings();
+  /// Tells of a change: at once, or in the next batch.
+  virtual void onRoot();
+
+ protected:
+  GenericIf_(Mox::Ptr<Stem> const& object, Mox::MoxType const* type, bool isConst);
+
+ private:
+  using Base = Mox::GenericIfEntity;
+  struct Table;
+  reflect::Target target() const;
+
+  Mox::Ptr<GenericIf_Adapter_> adapter_;
+};
+
+class Stem::GenericIf_::GenericIf_Adapter_ : public frame::Adapter<Stem::Notifiee,
+    Stem::GenericIf_> {
+ public:
+  using Adapter::Adapter;
+
+  void onGirth() override { if (auto* const owner = moxReactorAdapter()) owner->onGirth(); }
+  void onRings() override { if (auto* const owner = moxReactorAdapter()) owner->onRings(); }
+  void onRoot() override { if (auto* const owner = moxReactorAdapter()) owner->onRoot(); }
+};
+
+}  // namespace everyShape
