@@ -68,7 +68,7 @@ constexpr Shape shapeTable[] = {
      .takesDefault = true,
      .takesRange = true,
      .makes = "$name$ $name$Is $name$_"},
-    {.name = "bound", .blocks = "value", .form = Form::type, .takesRange = true, .makes = "$name$"},
+    {.name = "bound", .blocks = "value", .form = Form::type, .takesRange = true},
     {.name = "operation",
      .blocks = "entity object",
      .form = Form::call,

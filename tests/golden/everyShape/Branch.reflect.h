@@ -47,8 +47,8 @@ class Branch::GenericIf_ : public Stem::GenericIf_ {
   GenericIf_(Mox::Ptr<Branch> const& object, Mox::MoxType const* type, bool isConst);
 
  private:
-  using Base = Stem::GenericIf_;
-  struct Table;
+  using MoxBase = Stem::GenericIf_;
+  struct MoxTable;
   reflect::Target target() const;
 
   Mox::Ptr<GenericIf_Adapter_> adapter_;

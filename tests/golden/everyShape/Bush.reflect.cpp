@@ -9,7 +9,7 @@
 
 namespace everyShape {
 
-struct Bush::GenericIf_::Table {
+struct Bush::GenericIf_::MoxTable {
   static constexpr reflect::Argument constructorTypes[] = {
       {"name", Mox::Name::_fwkType},
       {"parentBush", Bush::_fwkType},
@@ -38,7 +38,7 @@ Mox::GenericIf::Ptr Bush::_Type::genericIf_(Mox::PtrInterface* object, bool isCo
 Bush::GenericIf_::GenericIf_(Mox::Ptr<Bush> const& object, bool isConst) : GenericIf_(object,
     Bush::_fwkType(), isConst) {}
 Bush::GenericIf_::GenericIf_(Mox::Ptr<Bush> const& object, Mox::MoxType const* type,
-    bool isConst) : Base(object, type, isConst) {
+    bool isConst) : MoxBase(object, type, isConst) {
   adapter_ = frame::adapterFor<GenericIf_Adapter_>(object.ptr(), this);
 }
 Bush::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
@@ -51,47 +51,48 @@ reflect::Target Bush::GenericIf_::target() const {
 Mox::GenericIf::Ptr Bush::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : Base::attributeOp(op,
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
+  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
       index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Bush::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : Base::attributeIteratorConst(id);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Bush::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : Base::attributeIteratorKeyConst(id, key);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
+      key);
 }
 Mox::GenericIf::Ptr Bush::GenericIf_::clone() {
   return reflect::active(new GenericIf_(obj(), isConst()));
 }
 Mox::GenericIf::Ptr Bush::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
-  reflect::Arguments const given(Table::constructorTypes, list, "Bush");
+  reflect::Arguments const given(MoxTable::constructorTypes, list, "Bush");
   return reflect::owningFaceOf(reflect::make<Bush, Mox::Name, Mox::Ptr<Bush>>(given.held()));
 }
 
 void Bush::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
-  reflect::handleNotification(*this, Table::told,
+  reflect::handleNotification(*this, MoxTable::told,
       [](Mox::GenericIfEntity& face,
       Mox::ActivityConfig* activity) {
-      static_cast<GenericIf_&>(face).Base::handleNotification(activity); }, activity);
+      static_cast<GenericIf_&>(face).MoxBase::handleNotification(activity); }, activity);
 }
 void Bush::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
   auto const own = Mox::ptrCast<Bush const>(notifier);
   adapter_->notifierIs(own);
-  Base::notifierIs(own);
+  MoxBase::notifierIs(own);
 }
 void Bush::GenericIf_::moxDoZombieReactors(bool zombie) {
   if (zombie == moxMarkedForDeletion()) return;
-  Base::moxDoZombieReactors(zombie);
+  MoxBase::moxDoZombieReactors(zombie);
   adapter_->moxDoZombieReactors(zombie);
 }
 void Bush::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
-  Base::hasNotificationActiveIs(active);
+  MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
 }
 

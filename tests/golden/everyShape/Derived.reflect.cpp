@@ -9,7 +9,7 @@
 
 namespace everyShape {
 
-struct Derived::GenericIf_::Table {
+struct Derived::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 386, .name = "extra", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Derived::extra>, .write = reflect::write<&Derived::extraIs>},
@@ -36,7 +36,7 @@ Mox::GenericIf::Ptr Derived::_Type::genericIf_(Mox::PtrInterface* object, bool i
 Derived::GenericIf_::GenericIf_(Mox::Ptr<Derived> const& object, bool isConst) : GenericIf_(object,
     Derived::_fwkType(), isConst) {}
 Derived::GenericIf_::GenericIf_(Mox::Ptr<Derived> const& object, Mox::MoxType const* type,
-    bool isConst) : Base(object, type, isConst) {
+    bool isConst) : MoxBase(object, type, isConst) {
   adapter_ = frame::adapterFor<GenericIf_Adapter_>(object.ptr(), this);
 }
 Derived::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
@@ -49,43 +49,44 @@ reflect::Target Derived::GenericIf_::target() const {
 Mox::GenericIf::Ptr Derived::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : Base::attributeOp(op,
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
+  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
       index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Derived::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : Base::attributeIteratorConst(id);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Derived::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : Base::attributeIteratorKeyConst(id, key);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
+      key);
 }
 Mox::GenericIf::Ptr Derived::GenericIf_::clone() {
   return reflect::active(new GenericIf_(obj(), isConst()));
 }
 
 void Derived::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
-  reflect::handleNotification(*this, Table::told,
+  reflect::handleNotification(*this, MoxTable::told,
       [](Mox::GenericIfEntity& face,
       Mox::ActivityConfig* activity) {
-      static_cast<GenericIf_&>(face).Base::handleNotification(activity); }, activity);
+      static_cast<GenericIf_&>(face).MoxBase::handleNotification(activity); }, activity);
 }
 void Derived::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
   auto const own = Mox::ptrCast<Derived const>(notifier);
   adapter_->notifierIs(own);
-  Base::notifierIs(own);
+  MoxBase::notifierIs(own);
 }
 void Derived::GenericIf_::moxDoZombieReactors(bool zombie) {
   if (zombie == moxMarkedForDeletion()) return;
-  Base::moxDoZombieReactors(zombie);
+  MoxBase::moxDoZombieReactors(zombie);
   adapter_->moxDoZombieReactors(zombie);
 }
 void Derived::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
-  Base::hasNotificationActiveIs(active);
+  MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
 }
 

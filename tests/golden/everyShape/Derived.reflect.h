@@ -48,8 +48,8 @@ class Derived::GenericIf_ : public Every::GenericIf_ {
   GenericIf_(Mox::Ptr<Derived> const& object, Mox::MoxType const* type, bool isConst);
 
  private:
-  using Base = Every::GenericIf_;
-  struct Table;
+  using MoxBase = Every::GenericIf_;
+  struct MoxTable;
   reflect::Target target() const;
 
   Mox::Ptr<GenericIf_Adapter_> adapter_;

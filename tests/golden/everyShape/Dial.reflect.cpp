@@ -7,7 +7,7 @@
 
 namespace everyShape {
 
-struct Dial::GenericIf_::Table {
+struct Dial::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "value", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Dial::value>, .write = reflect::construct<Dial, U32>},
@@ -34,7 +34,7 @@ reflect::Target Dial::GenericIf_::target() const {
 Mox::GenericIf::Ptr Dial::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Dial");
   return reflect::perform(*row, target(), op.opId, index, value);
 }
@@ -43,7 +43,7 @@ Mox::GenericIf::Ptr Dial::GenericIf_::clone() {
 }
 Mox::GenericIf::Ptr Dial::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   Dial made;
-  reflect::assignFields(Table::rows, list, &made, "Dial");
+  reflect::assignFields(MoxTable::rows, list, &made, "Dial");
   return reflect::active(new GenericIf_(made, false));
 }
 Mox::String8 Dial::GenericIf_::strRep() const { return valueToStrep(value_); }

@@ -7,7 +7,7 @@
 
 namespace everyShape {
 
-struct Engine::GenericIf_::Table {
+struct Engine::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 130, .name = "grove", .type = Grove::_fwkType, .read = reflect::read<&Engine::grove>},
       {.id = 131, .name = "note", .type = Mox::Builtin<Mox::String8>::_fwkType,
@@ -42,7 +42,7 @@ reflect::Target Engine::GenericIf_::target() const {
 Mox::GenericIf::Ptr Engine::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Engine");
   return reflect::perform(*row, target(), op.opId, index, value);
 }

@@ -92,8 +92,8 @@ class Every::GenericIf_ : public Mox::GenericIfEntity {
   GenericIf_(Mox::Ptr<Every> const& object, Mox::MoxType const* type, bool isConst);
 
  private:
-  using Base = Mox::GenericIfEntity;
-  struct Table;
+  using MoxBase = Mox::GenericIfEntity;
+  struct MoxTable;
   reflect::Target target() const;
 
   Mox::Ptr<GenericIf_Adapter_> adapter_;

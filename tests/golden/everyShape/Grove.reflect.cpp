@@ -10,7 +10,7 @@
 
 namespace everyShape {
 
-struct Grove::GenericIf_::Table {
+struct Grove::GenericIf_::MoxTable {
   static constexpr reflect::Argument pruneArguments[] = {
       {"from", Mox::Builtin<U8>::_fwkType},
       {"knob", Knob::_fwkType},
@@ -64,7 +64,7 @@ Mox::GenericIf::Ptr Grove::_Type::genericIf_(Mox::PtrInterface* object, bool isC
 Grove::GenericIf_::GenericIf_(Mox::Ptr<Grove> const& object, bool isConst) : GenericIf_(object,
     Grove::_fwkType(), isConst) {}
 Grove::GenericIf_::GenericIf_(Mox::Ptr<Grove> const& object, Mox::MoxType const* type,
-    bool isConst) : Base(object, type, isConst) {
+    bool isConst) : MoxBase(object, type, isConst) {
   adapter_ = frame::adapterFor<GenericIf_Adapter_>(object.ptr(), this);
 }
 Grove::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
@@ -77,43 +77,44 @@ reflect::Target Grove::GenericIf_::target() const {
 Mox::GenericIf::Ptr Grove::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : Base::attributeOp(op,
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
+  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
       index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Grove::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : Base::attributeIteratorConst(id);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Grove::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : Base::attributeIteratorKeyConst(id, key);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
+      key);
 }
 Mox::GenericIf::Ptr Grove::GenericIf_::clone() {
   return reflect::active(new GenericIf_(obj(), isConst()));
 }
 
 void Grove::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
-  reflect::handleNotification(*this, Table::told,
+  reflect::handleNotification(*this, MoxTable::told,
       [](Mox::GenericIfEntity& face,
       Mox::ActivityConfig* activity) {
-      static_cast<GenericIf_&>(face).Base::handleNotification(activity); }, activity);
+      static_cast<GenericIf_&>(face).MoxBase::handleNotification(activity); }, activity);
 }
 void Grove::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
   auto const own = Mox::ptrCast<Grove const>(notifier);
   adapter_->notifierIs(own);
-  Base::notifierIs(own);
+  MoxBase::notifierIs(own);
 }
 void Grove::GenericIf_::moxDoZombieReactors(bool zombie) {
   if (zombie == moxMarkedForDeletion()) return;
-  Base::moxDoZombieReactors(zombie);
+  MoxBase::moxDoZombieReactors(zombie);
   adapter_->moxDoZombieReactors(zombie);
 }
 void Grove::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
-  Base::hasNotificationActiveIs(active);
+  MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
 }
 

@@ -9,7 +9,7 @@
 
 namespace everyShape {
 
-struct Heap::GenericIf_::Table {
+struct Heap::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "item", .type = Mox::Builtin<bool>::_fwkType,
           .key = Mox::Builtin<U32>::_fwkType, .collection = &reflect::collection<Heap::Tags::Item>},
@@ -36,19 +36,20 @@ reflect::Target Heap::GenericIf_::target() const {
 Mox::GenericIf::Ptr Heap::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Heap");
   return reflect::perform(*row, target(), op.opId, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Heap::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : Base::attributeIteratorConst(id);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Heap::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : Base::attributeIteratorKeyConst(id, key);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
+      key);
 }
 Mox::GenericIf::Ptr Heap::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

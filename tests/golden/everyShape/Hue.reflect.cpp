@@ -7,7 +7,7 @@
 
 namespace everyShape {
 
-struct Hue::GenericIf_::Table {
+struct Hue::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "value", .type = Mox::Builtin<U16>::_fwkType,
           .read = reflect::read<&Hue::value>, .write = reflect::construct<Hue, U16>},
@@ -34,7 +34,7 @@ reflect::Target Hue::GenericIf_::target() const {
 Mox::GenericIf::Ptr Hue::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Hue");
   return reflect::perform(*row, target(), op.opId, index, value);
 }
@@ -43,7 +43,7 @@ Mox::GenericIf::Ptr Hue::GenericIf_::clone() {
 }
 Mox::GenericIf::Ptr Hue::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   Hue made;
-  reflect::assignFields(Table::rows, list, &made, "Hue");
+  reflect::assignFields(MoxTable::rows, list, &made, "Hue");
   return reflect::active(new GenericIf_(made, false));
 }
 Mox::String8 Hue::GenericIf_::strRep() const { return valueToStrep(value_); }

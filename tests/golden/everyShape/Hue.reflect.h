@@ -24,8 +24,8 @@ class Hue::GenericIf_ : public Mox::GenericIf {
   Mox::String8 strRep() const override;
 
  private:
-  using Base = Mox::GenericIf;
-  struct Table;
+  using MoxBase = Mox::GenericIf;
+  struct MoxTable;
   reflect::Target target() const;
 
   Hue value_;

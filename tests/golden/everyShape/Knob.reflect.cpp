@@ -8,7 +8,7 @@
 
 namespace everyShape {
 
-struct Knob::GenericIf_::Table {
+struct Knob::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "turn", .type = Mox::Builtin<U8>::_fwkType,
           .read = reflect::read<&Knob::turn>, .write = reflect::store<U8, offsetof(Knob, turn_)>},
@@ -35,7 +35,7 @@ reflect::Target Knob::GenericIf_::target() const {
 Mox::GenericIf::Ptr Knob::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Knob");
   return reflect::perform(*row, target(), op.opId, index, value);
 }
@@ -44,7 +44,7 @@ Mox::GenericIf::Ptr Knob::GenericIf_::clone() {
 }
 Mox::GenericIf::Ptr Knob::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   Knob made;
-  reflect::assignFields(Table::rows, list, &made, "Knob");
+  reflect::assignFields(MoxTable::rows, list, &made, "Knob");
   return reflect::active(new GenericIf_(made, false));
 }
 Mox::String8 Knob::GenericIf_::strRep() const { return valueToStrep(value_); }

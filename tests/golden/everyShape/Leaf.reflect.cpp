@@ -8,7 +8,7 @@
 
 namespace everyShape {
 
-struct Leaf::GenericIf_::Table {
+struct Leaf::GenericIf_::MoxTable {
   static constexpr reflect::Argument constructorTypes[] = {
       {"name", Mox::Name::_fwkType},
       {"lane", Mox::Builtin<U8>::_fwkType},
@@ -36,7 +36,7 @@ Mox::GenericIf::Ptr Leaf::_Type::genericIf_(Mox::PtrInterface* object, bool isCo
 Leaf::GenericIf_::GenericIf_(Mox::Ptr<Leaf> const& object, bool isConst) : GenericIf_(object,
     Leaf::_fwkType(), isConst) {}
 Leaf::GenericIf_::GenericIf_(Mox::Ptr<Leaf> const& object, Mox::MoxType const* type,
-    bool isConst) : Base(object, type, isConst) {
+    bool isConst) : MoxBase(object, type, isConst) {
   adapter_ = frame::adapterFor<GenericIf_Adapter_>(object.ptr(), this);
 }
 Leaf::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
@@ -49,47 +49,48 @@ reflect::Target Leaf::GenericIf_::target() const {
 Mox::GenericIf::Ptr Leaf::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : Base::attributeOp(op,
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
+  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
       index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Leaf::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : Base::attributeIteratorConst(id);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Leaf::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : Base::attributeIteratorKeyConst(id, key);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
+      key);
 }
 Mox::GenericIf::Ptr Leaf::GenericIf_::clone() {
   return reflect::active(new GenericIf_(obj(), isConst()));
 }
 Mox::GenericIf::Ptr Leaf::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
-  reflect::Arguments const given(Table::constructorTypes, list, "Leaf");
+  reflect::Arguments const given(MoxTable::constructorTypes, list, "Leaf");
   return reflect::owningFaceOf(reflect::make<Leaf, Mox::Name, U8, Mix>(given.held()));
 }
 
 void Leaf::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
-  reflect::handleNotification(*this, Table::told,
+  reflect::handleNotification(*this, MoxTable::told,
       [](Mox::GenericIfEntity& face,
       Mox::ActivityConfig* activity) {
-      static_cast<GenericIf_&>(face).Base::handleNotification(activity); }, activity);
+      static_cast<GenericIf_&>(face).MoxBase::handleNotification(activity); }, activity);
 }
 void Leaf::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
   auto const own = Mox::ptrCast<Leaf const>(notifier);
   adapter_->notifierIs(own);
-  Base::notifierIs(own);
+  MoxBase::notifierIs(own);
 }
 void Leaf::GenericIf_::moxDoZombieReactors(bool zombie) {
   if (zombie == moxMarkedForDeletion()) return;
-  Base::moxDoZombieReactors(zombie);
+  MoxBase::moxDoZombieReactors(zombie);
   adapter_->moxDoZombieReactors(zombie);
 }
 void Leaf::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
-  Base::hasNotificationActiveIs(active);
+  MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
 }
 

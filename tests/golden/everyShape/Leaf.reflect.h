@@ -44,8 +44,8 @@ class Leaf::GenericIf_ : public Mox::GenericIfEntity {
   GenericIf_(Mox::Ptr<Leaf> const& object, Mox::MoxType const* type, bool isConst);
 
  private:
-  using Base = Mox::GenericIfEntity;
-  struct Table;
+  using MoxBase = Mox::GenericIfEntity;
+  struct MoxTable;
   reflect::Target target() const;
 
   Mox::Ptr<GenericIf_Adapter_> adapter_;

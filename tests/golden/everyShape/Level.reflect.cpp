@@ -7,7 +7,7 @@
 
 namespace everyShape {
 
-struct Level::GenericIf_::Table {
+struct Level::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "value", .type = Mox::Builtin<U8>::_fwkType,
           .read = reflect::read<&Level::value>, .write = reflect::construct<Level, U8>},
@@ -34,7 +34,7 @@ reflect::Target Level::GenericIf_::target() const {
 Mox::GenericIf::Ptr Level::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Level");
   return reflect::perform(*row, target(), op.opId, index, value);
 }
@@ -43,7 +43,7 @@ Mox::GenericIf::Ptr Level::GenericIf_::clone() {
 }
 Mox::GenericIf::Ptr Level::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   Level made;
-  reflect::assignFields(Table::rows, list, &made, "Level");
+  reflect::assignFields(MoxTable::rows, list, &made, "Level");
   return reflect::active(new GenericIf_(made, false));
 }
 Mox::String8 Level::GenericIf_::strRep() const { return valueToStrep(value_); }

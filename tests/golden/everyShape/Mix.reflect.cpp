@@ -8,7 +8,7 @@
 
 namespace everyShape {
 
-struct Mix::GenericIf_::Table {
+struct Mix::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "small", .type = Mox::Builtin<U8>::_fwkType,
           .read = reflect::read<&Mix::small>, .write = reflect::store<U8, offsetof(Mix, small_)>},
@@ -45,7 +45,7 @@ reflect::Target Mix::GenericIf_::target() const {
 Mox::GenericIf::Ptr Mix::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Mix");
   return reflect::perform(*row, target(), op.opId, index, value);
 }
@@ -54,7 +54,7 @@ Mox::GenericIf::Ptr Mix::GenericIf_::clone() {
 }
 Mox::GenericIf::Ptr Mix::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   Mix made;
-  reflect::assignFields(Table::rows, list, &made, "Mix");
+  reflect::assignFields(MoxTable::rows, list, &made, "Mix");
   return reflect::active(new GenericIf_(made, false));
 }
 Mox::String8 Mix::GenericIf_::strRep() const { return valueToStrep(value_); }

@@ -7,7 +7,7 @@
 
 namespace everyShape {
 
-struct Shade::GenericIf_::Table {
+struct Shade::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "value", .type = Mox::Builtin<U16>::_fwkType,
           .read = reflect::read<&Shade::value>, .write = reflect::construct<Shade, U16>},
@@ -32,7 +32,7 @@ reflect::Target Shade::GenericIf_::target() const {
 Mox::GenericIf::Ptr Shade::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) return reflect::performInBase(*this, static_cast<Hue const*>(&value_), op, index,
       value);
   return reflect::perform(*row, target(), op.opId, index, value);
@@ -42,7 +42,7 @@ Mox::GenericIf::Ptr Shade::GenericIf_::clone() {
 }
 Mox::GenericIf::Ptr Shade::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   Shade made;
-  reflect::assignFields(Table::rows, list, &made, "Shade");
+  reflect::assignFields(MoxTable::rows, list, &made, "Shade");
   return reflect::active(new GenericIf_(made, false));
 }
 Mox::String8 Shade::GenericIf_::strRep() const { return valueToStrep(value_); }

@@ -9,7 +9,7 @@
 
 namespace everyShape {
 
-struct Shelf::GenericIf_::Table {
+struct Shelf::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 130, .name = "shelfId", .type = Mox::Builtin<U8>::_fwkType,
           .read = reflect::read<&Shelf::shelfId>},
@@ -41,19 +41,20 @@ reflect::Target Shelf::GenericIf_::target() const {
 Mox::GenericIf::Ptr Shelf::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Shelf");
   return reflect::perform(*row, target(), op.opId, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Shelf::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : Base::attributeIteratorConst(id);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Shelf::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : Base::attributeIteratorKeyConst(id, key);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
+      key);
 }
 Mox::GenericIf::Ptr Shelf::GenericIf_::clone() {
   return reflect::active(new GenericIf_(obj(), isConst()));

@@ -8,7 +8,7 @@
 
 namespace everyShape {
 
-struct Stem::GenericIf_::Table {
+struct Stem::GenericIf_::MoxTable {
   static constexpr reflect::Argument constructorTypes[] = {
       {"port", Mox::Builtin<U16>::_fwkType},
   };
@@ -39,7 +39,7 @@ Mox::GenericIf::Ptr Stem::_Type::genericIf_(Mox::PtrInterface* object, bool isCo
 Stem::GenericIf_::GenericIf_(Mox::Ptr<Stem> const& object, bool isConst) : GenericIf_(object,
     Stem::_fwkType(), isConst) {}
 Stem::GenericIf_::GenericIf_(Mox::Ptr<Stem> const& object, Mox::MoxType const* type,
-    bool isConst) : Base(object, type, isConst) {
+    bool isConst) : MoxBase(object, type, isConst) {
   adapter_ = frame::adapterFor<GenericIf_Adapter_>(object.ptr(), this);
 }
 Stem::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
@@ -52,47 +52,48 @@ reflect::Target Stem::GenericIf_::target() const {
 Mox::GenericIf::Ptr Stem::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(Table::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : Base::attributeOp(op,
+  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
+  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
       index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Stem::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : Base::attributeIteratorConst(id);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Stem::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
-  auto const* const row = reflect::collectionOf(Table::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : Base::attributeIteratorKeyConst(id, key);
+  auto const* const row = reflect::collectionOf(MoxTable::rows, id);
+  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
+      key);
 }
 Mox::GenericIf::Ptr Stem::GenericIf_::clone() {
   return reflect::active(new GenericIf_(obj(), isConst()));
 }
 Mox::GenericIf::Ptr Stem::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
-  reflect::Arguments const given(Table::constructorTypes, list, "Stem");
+  reflect::Arguments const given(MoxTable::constructorTypes, list, "Stem");
   return reflect::owningFaceOf(reflect::make<Stem, U16>(given.held()));
 }
 
 void Stem::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
-  reflect::handleNotification(*this, Table::told,
+  reflect::handleNotification(*this, MoxTable::told,
       [](Mox::GenericIfEntity& face,
       Mox::ActivityConfig* activity) {
-      static_cast<GenericIf_&>(face).Base::handleNotification(activity); }, activity);
+      static_cast<GenericIf_&>(face).MoxBase::handleNotification(activity); }, activity);
 }
 void Stem::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
   auto const own = Mox::ptrCast<Stem const>(notifier);
   adapter_->notifierIs(own);
-  Base::notifierIs(own);
+  MoxBase::notifierIs(own);
 }
 void Stem::GenericIf_::moxDoZombieReactors(bool zombie) {
   if (zombie == moxMarkedForDeletion()) return;
-  Base::moxDoZombieReactors(zombie);
+  MoxBase::moxDoZombieReactors(zombie);
   adapter_->moxDoZombieReactors(zombie);
 }
 void Stem::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
-  Base::hasNotificationActiveIs(active);
+  MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
 }
 
