@@ -70,7 +70,8 @@ Names listed(Shape const& shape) {
 
 TEST(MadeNamesTest, EachShapeMakesTheNamesOfItsTableAndNoOthers) {
   for (Shape const& shape : shapes()) {
-    EXPECT_EQ(listed(shape), found(codeOf(oneRow(std::string(shape.name))), "\\b(\\w*[zZ]ebra\\w*)"))
+    EXPECT_EQ(listed(shape),
+              found(codeOf(oneRow(std::string(shape.name))), "\\b(\\w*[zZ]ebra\\w*)"))
         << shape.name;
   }
 }
@@ -95,9 +96,9 @@ TEST(MadeNamesTest, TheNamespaceGetsTheNamesOfTheTable) {
   Names const classes = {"Owl", "owlRow", "owlType", "owlFactory"};
   EXPECT_EQ(classes, found(codeOf("entity Owl (name Mox::Name) root\nend\n"), "\\b([oO]wl\\w*)"));
   EXPECT_EQ(namesOfType, "$Class$ $class$Row $class$Type $class$Factory");
-  Names const enums = {"Owl", "owlRow", "owlType", "OwlInstance", "_fwkType_Owl"};
+  Names const enums = {"Owl", "owlRow", "owlType", "OwlInstance", "Owl_GenericIf_", "_fwkType_Owl"};
   EXPECT_EQ(enums, found(codeOf("enum Owl\n0 a\nend\n"), "\\b(\\w*[oO]wl\\w*)"));
-  EXPECT_EQ(namesOfEnum, "$Class$Instance _fwkType_$Class$");
+  EXPECT_EQ(namesOfEnum, "$Class$Instance $Class$_GenericIf_ _fwkType_$Class$");
 }
 
 TEST(MadeNamesTest, ATagOfItsTypesNameStillFindsTheType) {
