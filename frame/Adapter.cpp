@@ -13,7 +13,7 @@ void bitIs(Notifiee& self, U32 bit, bool on) {
 }  // namespace
 
 void adapterStart(Notifiee& self, Mox::PtrInterface const* notifier) {
-  self.mox_bitSetIs(Mox_BitSet(outboundEnabled));
+  self.mox_bitSetIs(Mox_BitSet(Mox::outboundEnabled));
   self.isRegisteredNotifieeIs(true);
   self.notifierIs(notifier);
   self.isWeakReferenceIs(true);
@@ -23,9 +23,9 @@ void adapterActiveIs(Notifiee& self, Notifiee* owner, bool active) {
   if (active == self.hasNotificationActive()) return;
   self.Mox::PtrInterface::hasNotificationActiveIs(active);
   if (active) {
-    if (self.mox_bitSet().has(registeredWhenDeactivated)) self.isRegisteredNotifieeIs(true);
+    if (self.mox_bitSet().has(Mox::registeredWhenDeactivated)) self.isRegisteredNotifieeIs(true);
   } else {
-    bitIs(self, registeredWhenDeactivated, self.isRegisteredNotifiee());
+    bitIs(self, Mox::registeredWhenDeactivated, self.isRegisteredNotifiee());
     self.isRegisteredNotifieeIs(false);
   }
   if (owner && !self.moxMarkedForDeletion()) owner->hasNotificationActiveIs(active);

@@ -10,10 +10,6 @@
 
 namespace frame {
 
-/// Bits of an adapter's flag word.
-inline constexpr U32 registeredWhenDeactivated = 0x80000;  ///< it was, when it was switched off
-inline constexpr U32 outboundEnabled = 0x4000000;  ///< without it nothing is written to a log
-
 // The steps of all adapters; `owner` is null once it has gone.
 
 /// The first step: observes `notifier`, weakly, with `outboundEnabled` and no other bit.

@@ -1,5 +1,5 @@
-// The floors of the mutator bench: the least that the same promises can cost, in a library of its
-// own.
+// The floors of the benches of mutators and of access by number: the least that the same promises
+// can cost, in a library of its own.
 #pragma once
 
 #include "Mox/PtrInterface.h"
@@ -29,6 +29,13 @@ void valueIs(Plain& plain, U32 value);
 /// snapshot on the stack, each member held by a counted reference, each call inside a catch,
 /// members that only the snapshot still holds passed over.
 void valueIsAndTell(Plain& plain, U32 value);
+
+/// Seven numbers, of which `id`, from 258 on, names one: a switch, and nothing around the value.
+struct Numbered {
+  U32 value[7] = {};
+};
+U32 read(Numbered const& numbered, U32 id);
+void write(Numbered& numbered, U32 id, U32 value);
 
 /// How many exceptions listeners have raised: keeps the catch alive.
 std::size_t failures();

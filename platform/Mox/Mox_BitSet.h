@@ -3,6 +3,14 @@
 
 #include "Mox/Integers.h"
 
+namespace Mox {
+
+// Bits of an adapter's flag word.
+inline constexpr U32 registeredWhenDeactivated = 0x80000;  ///< it was, when it was switched off
+inline constexpr U32 outboundEnabled = 0x4000000;  ///< without it nothing is written to a log
+
+}  // namespace Mox
+
 /// The flag word of a notifiee.  What its bits mean is the business of the notifiee's kind.
 class Mox_BitSet {
  public:

@@ -9,6 +9,7 @@ namespace Mox {
 GenericIfEntity::GenericIfEntity(Mox::Ptr<Entity> const& entity, MoxType const* type, bool isConst)
     : GenericIf(type, isConst) {
   heldIs(&moxNotifierWord());
+  mox_bitSetIs(Mox_BitSet(outboundEnabled));
   isWeakReferenceIs(true);
   GenericIfEntity::notifierIs(entity);
 }
