@@ -2,7 +2,8 @@
 //
 // Run:  build/release/bin/bench_Access --benchmark_repetitions=9
 //           --benchmark_report_aggregates_only=true --benchmark_enable_random_interleaving=true
-// Read: compare medians of one run, as ratios. `floor` is a switch over numbers behind a call into a
+// Read: compare medians of one run, as ratios. `floor` is a switch over numbers behind a call into
+// a
 //       shared library. Ours include the interface that is handed out or taken in. Bounds: by
 //       number ahead of each peer that is there, aim 2.5 ns; by name at most 12 ns; a walk through
 //       the interface, key and value of each element looked at, at most 5 times the typed one.
@@ -73,8 +74,7 @@ void writeByNumber(benchmark::State& state) {
   U32 value = 0;
   for (auto _ : state) {
     benchmark::DoNotOptimize(id);
-    counters.face->attributeOp({id, GenericIf::opWrite}, nullptr,
-                               Mox::primitiveIf(++value, false));
+    counters.face->attributeOp({id, GenericIf::opWrite}, nullptr, Mox::primitiveIf(++value, false));
   }
 }
 BENCHMARK(writeByNumber);

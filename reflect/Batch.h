@@ -43,7 +43,7 @@ void changed(Mox::GenericIfEntity& face, Mox::AttributeId id, Pending<Key>& pend
              frame::TypeOf keyType) {
   pending.last = key;
   if (face.moxOnAttribute(id, &pending.count)) return;
-  face.onAttribute(id, faceOf(pending.last, keyType(), true));
+  face.onAttribute(id, faceOf(pending.last, keyType, true));
 }
 
 /// The one key that has changed; null where there was none, or several, which are told at once.

@@ -9,15 +9,21 @@ GenericIf::Ptr active(GenericIf* made) {
   return face;
 }
 
-GenericIf::Ptr faceOf(Mox::PtrInterface const* target, Mox::MoxType const* declared, bool isConst) {
+GenericIf::Ptr unwatched(Mox::GenericIfEntity* made) {
+  auto const face = active(made);
+  made->moxAdaptersHearIs(false);
+  return face;
+}
+
+GenericIf::Ptr faceOf(Mox::PtrInterface const* target, frame::TypeOf declared, bool isConst) {
   // Who reads through a constant interface gets one.
   auto* const object = const_cast<Mox::PtrInterface*>(target);
-  return (object ? object->fwkType() : declared)->genericIf_(object, isConst);
+  return (object ? object->fwkType() : declared())->genericIf_(object, isConst);
 }
 
 GenericIf::Ptr owningFaceOf(Mox::Entity* made) {
   Mox::Ptr<Mox::Entity> const entity = made;
-  auto const face = faceOf(made, made->fwkType(), false);
+  auto const face = made->fwkType()->genericIf_(made, false);
   face->isWeakReferenceIs(false);
   return face;
 }

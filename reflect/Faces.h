@@ -4,6 +4,7 @@
 #include "Mox/Builtin.h"
 #include "Mox/Exception.h"
 #include "Mox/GenericIfEntity.h"
+#include "frame/Descriptor.h"
 
 #include <type_traits>
 
@@ -13,20 +14,22 @@ using Mox::GenericIf;
 
 /// Switches a new interface on.
 GenericIf::Ptr active(GenericIf* made);
+/// The same of an entity's, which needn't hear until somebody watches.
+GenericIf::Ptr unwatched(Mox::GenericIfEntity* made);
 
 /// The interface of an object or entity by the descriptor of its own class; by `declared` for null.
-GenericIf::Ptr faceOf(Mox::PtrInterface const* target, Mox::MoxType const* declared, bool isConst);
+GenericIf::Ptr faceOf(Mox::PtrInterface const* target, frame::TypeOf declared, bool isConst);
 
 /// The interface of a value of `type`, or of what a pointer points at.
 template <class T>
-GenericIf::Ptr faceOf(T const& value, Mox::MoxType const* type, bool isConst) {
+GenericIf::Ptr faceOf(T const& value, [[maybe_unused]] frame::TypeOf type, bool isConst) {
   if constexpr (Mox::Primitive<T>)
     return Mox::primitiveIf(value, isConst);
   else
-    return type->genericIf(&value, isConst);
+    return type()->genericIf(&value, isConst);
 }
 template <class T>
-GenericIf::Ptr faceOf(Mox::Ptr<T> const& target, Mox::MoxType const* declared, bool isConst) {
+GenericIf::Ptr faceOf(Mox::Ptr<T> const& target, frame::TypeOf declared, bool isConst) {
   return faceOf(static_cast<Mox::PtrInterface const*>(target.ptr()), declared,
                 isConst || std::is_const_v<T>);
 }

@@ -57,8 +57,8 @@ GenericIf::Ptr performOnCollection(Row const& row, Target const& target, Generic
 
 }  // namespace
 
-void requireNotNull(Mox::PtrInterface const* object, GenericIf const& face) {
-  if (!object) Mox::throwRangeException("null " + face.type()->moxName().stringValue());
+void nullObject(GenericIf const& face) {
+  Mox::throwRangeException("null " + face.type()->moxName().stringValue());
 }
 
 GenericIf::Ptr perform(Row const& row, Target const& target, GenericIf::OpId op,

@@ -5,8 +5,8 @@
 
 namespace reflect {
 
-/// Raises `RangeException` "null <type>" for null.
-void requireNotNull(Mox::PtrInterface const* object, GenericIf const& face);
+/// Raises `RangeException` "null <type>".
+[[noreturn]] void nullObject(GenericIf const& face);
 
 /// Does what `op` asks of the attribute of `row`; for what is raised see `GenericIf::attributeOp`.
 /// An operation of an object is called by `opWrite`: `value` holds its argument, a `List_` where
@@ -23,7 +23,8 @@ GenericIf::Ptr performInBase(GenericIf const& face, void const* held, GenericIf:
 /// null.
 template <class X>
 Target targetOf(Mox::PtrInterface* object, GenericIf const& face) {
-  requireNotNull(object, face);
+  if (!object) [[unlikely]]
+    nullObject(face);
   return {static_cast<X*>(object), object, face.isConst()};
 }
 

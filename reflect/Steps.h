@@ -28,7 +28,7 @@ using ClassOf = typename MemberOf<decltype(member)>::Class;
 /// Reads by the accessor `get`.
 template <auto get>
 GenericIf::Ptr read(Row const& row, Target const& target) {
-  return faceOf((static_cast<ClassOf<get> const*>(target.object)->*get)(), row.type(),
+  return faceOf((static_cast<ClassOf<get> const*>(target.object)->*get)(), row.type,
                 target.isConst);
 }
 
@@ -87,7 +87,7 @@ GenericIf::Ptr call(Row const& row, [[maybe_unused]] Target const& target,
     Given::apply(arguments, perform);
     return nullptr;
   } else {
-    return faceOf(Given::apply(arguments, perform), row.type(), target.isConst);
+    return faceOf(Given::apply(arguments, perform), row.type, target.isConst);
   }
 }
 

@@ -14,14 +14,16 @@ class Walk : public GenericIf::IteratorState {
   using Iterator = typename std::remove_cvref_t<decltype(A::map(std::declval<Owner&>()))>::Iterator;
 
   Walk(Row const& row, Mox::PtrInterface const* keeper, Iterator const& at)
-      : row_(row), keeper_(keeper), at_(at) {}
+      : IteratorState(static_cast<bool>(at)), row_(row), keeper_(keeper), at_(at) {}
 
-  bool nonNull() const override { return static_cast<bool>(at_); }
   GenericIf::Ptr obj(bool isConst) const override {
-    return faceOf(at_.value(), row_.type(), isConst);
+    return faceOf(at_.value(), row_.type, isConst);
   }
-  GenericIf::PtrConst key() const override { return faceOf(at_.key(), row_.key(), true); }
-  void inc() override { ++at_; }
+  GenericIf::PtrConst key() const override { return faceOf(at_.key(), row_.key, true); }
+  void inc() override {
+    ++at_;
+    nonNullIs(static_cast<bool>(at_));
+  }
   Mox::Ptr<GenericIf::IteratorState> clone() const override {
     return new Walk(row_, keeper_.ptr(), at_);
   }
@@ -48,7 +50,7 @@ struct CollectionOf {
     return A::map(of(object)).isMember(keyAt(key));
   }
   static GenericIf::Ptr read(Row const& row, Target const& target, void const* key) {
-    return faceOf(A::read(of(target.object), keyAt(key)), row.type(), target.isConst);
+    return faceOf(A::read(of(target.object), keyAt(key)), row.type, target.isConst);
   }
   static void write(void* object, void const* key, void const* value) {
     A::write(of(object), keyAt(key), Held<typename A::Value>::at(value));

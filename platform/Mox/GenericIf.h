@@ -105,7 +105,11 @@ class GenericIf : public PtrInterface::NotifieeConst {
   [[noreturn]] static void throwUnknownArgException(String8 const& type);
 
   /// The address of what `given` holds; raises `TypeException` with `name` unless it is a `type`.
-  static void const* requireHeld(PtrConst const& given, MoxType const* type, char const* name);
+  static void const* requireHeld(PtrConst const& given, MoxType const* type, char const* name) {
+    if (given && given->type_ == type) [[likely]]
+      return given->held_;
+    return requireOther(given, type, name);
+  }
 
  protected:
   /// Raises `ConstException` for a write to a constant interface.
@@ -118,6 +122,9 @@ class GenericIf : public PtrInterface::NotifieeConst {
   void isConstIs(bool isConst) noexcept { isConst_ = isConst; }
 
  private:
+  // A class of its own may hold the type all the same.
+  static void const* requireOther(PtrConst const& given, MoxType const* type, char const* name);
+
   MoxType const* type_;  // immortal
   void const* held_ = nullptr;
   bool isConst_;
@@ -126,11 +133,19 @@ class GenericIf : public PtrInterface::NotifieeConst {
 /// What an iterator keeps of one walk: the collection, held by its owner, and the position.
 class GenericIf::IteratorState : public PtrInterface {
  public:
-  virtual bool nonNull() const = 0;
+  bool nonNull() const noexcept { return nonNull_; }
+  // Not at the end.
   virtual Ptr obj(bool isConst) const = 0;
   virtual PtrConst key() const = 0;
   virtual void inc() = 0;
   virtual Mox::Ptr<IteratorState> clone() const = 0;
+
+ protected:
+  explicit IteratorState(bool nonNull) noexcept : nonNull_(nonNull) {}
+  void nonNullIs(bool nonNull) noexcept { nonNull_ = nonNull; }
+
+ private:
+  bool nonNull_;
 };
 
 /// A walk over one collection of the interface that made it, which it keeps.  A copy walks on by
@@ -141,39 +156,25 @@ class GenericIf::AttributeIteratorConst {
   AttributeIteratorConst(PtrConst const& genericIf, Mox::Ptr<IteratorState> state)
       : genericIf_(genericIf), state_(std::move(state)) {}
   AttributeIteratorConst(AttributeIteratorConst const& other)
-      : AttributeIteratorConst(other.genericIf_
-                                   ? other.genericIf_->attributeIterator_iterClone(other)
-                                   : AttributeIteratorConst()) {}
+      : AttributeIteratorConst(other.genericIf_, other.state_ ? other.state_->clone() : nullptr) {}
   AttributeIteratorConst(AttributeIteratorConst&& other) noexcept = default;
   AttributeIteratorConst& operator=(AttributeIteratorConst other) noexcept {
     std::swap(genericIf_, other.genericIf_);
     std::swap(state_, other.state_);
     return *this;
   }
-  ~AttributeIteratorConst() {
-    if (genericIf_) genericIf_->attributeIterator_iterDel(*this);
-  }
 
-  explicit operator bool() const {
-    return genericIf_ && genericIf_->attributeIterator_nonNull(*this);
-  }
+  explicit operator bool() const noexcept { return state_ && state_->nonNull(); }
   AttributeIteratorConst& operator++() {
-    if (genericIf_) genericIf_->attributeIterator_iterInc(*this);
+    if (*this) state_->inc();
     return *this;
   }
   /// The element, as constant as the interface; null at the end.
-  Ptr obj() const {
-    if (!genericIf_) return nullptr;
-    return const_cast<GenericIf&>(*genericIf_).attributeIterator_iterObj(*this);
-  }
+  Ptr obj() const { return *this ? state_->obj(genericIf_->isConst()) : nullptr; }
   /// Its key, always constant; null at the end.
-  PtrConst key() const {
-    return genericIf_ ? genericIf_->attributeIterator_iterKey(*this) : nullptr;
-  }
-
-  /// For the interface that made this iterator.
-  IteratorState* state() const noexcept { return state_.ptr(); }
-  void stateIs(Mox::Ptr<IteratorState> state) noexcept { state_ = std::move(state); }
+  PtrConst key() const { return *this ? state_->key() : nullptr; }
+  /// Ends the walk, and lets go of what it held.
+  void clear() noexcept { state_ = nullptr; }
 
  private:
   PtrConst genericIf_;

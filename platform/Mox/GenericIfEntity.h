@@ -30,9 +30,12 @@ class GenericIfEntity : public GenericIf {
     return const_cast<Entity*>(static_cast<Entity const*>(moxNotifier()));
   }
   /// Who is told; null for nobody.
-  void watcherIs(Mox::Ptr<Watcher> const& watcher) { watcher_ = watcher; }
+  void watcherIs(Mox::Ptr<Watcher> const& watcher);
   /// From now on changes are told in batches when `activity` gets to it; at once for null.
-  void activityIs(Mox::Ptr<ActivityConfig> const& activity) { activity_ = activity; }
+  void activityIs(Mox::Ptr<ActivityConfig> const& activity);
+  /// Whether the adapters of this interface hear.  One that a descriptor has made doesn't until it
+  /// gets a watcher or an activity, so that writing through it costs no delivery.
+  virtual void moxAdaptersHearIs(bool hears);
 
   /// What is to be told when the activity gets to this interface: the number of an attribute, or
   /// one of these.

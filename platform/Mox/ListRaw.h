@@ -21,6 +21,12 @@ class BaseCollection {
   U32 count() const noexcept { return count_; }
   bool empty() const noexcept { return head_ == nullptr; }
   Member* head() const noexcept { return head_; }
+  /// Whether any member hears.  Linear in those that don't, ahead of the first that does.
+  bool anyHears() const noexcept {
+    Member const* at = head_;
+    while (at && !at->moxHears()) at = at->next_;
+    return at != nullptr;
+  }
   static Member* next(Member const* member) noexcept { return member->next_; }
 
   void linkHead(Member* member) noexcept;

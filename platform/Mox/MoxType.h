@@ -120,7 +120,7 @@ class MoxType : public MoxAttr {
   MoxAttr const* attributeById(AttributeId id) const noexcept;
   /// The attribute of that name, the base's included; null where there is none.  Constant on
   /// average.
-  MoxAttr const* attributeByName(Name const& name) const;
+  MoxAttr const* attributeByName(String8 const& name) const;
 
   void derivedTypeQEnq(MoxType* derived) { derived_.push_back(derived); }
   std::vector<MoxType*> const& derivedTypeQ() const noexcept { return derived_; }
@@ -152,13 +152,15 @@ class MoxType : public MoxAttr {
   static MoxType* opaque(char const* name);
 
  private:
+  void indexNames() const;
+
   MoxType* base_;
   Name fullTypeName_;
   U32 size_ = 0;
   MoxTypeFlags flags_;
   MoxAttr const* valAttr_ = nullptr;
   AttributeQ queue_;
-  using NameIndex = HashMap<MapNode<Name, MoxAttr const*>, Name, MoxAttr const*>;
+  using NameIndex = HashMap<MapNode<String8, MoxAttr const*>, String8, MoxAttr const*>;
   mutable NameIndex byName_;  // of the queue, made when it is asked for
   std::vector<MoxType*> derived_;
 };

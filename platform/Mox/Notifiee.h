@@ -82,6 +82,12 @@ class PtrInterface::NotifieeConst : public PtrInterface {
     return level_ == level || derivesFrom(level);
   }
 
+  /// False for one whose hooks would do nothing, such as the adapter of an interface that nobody
+  /// watches: an entity with none but such in its list passes its changes over.  They are told of
+  /// its last reference all the same.
+  bool moxHears() const noexcept { return hears_; }
+  void moxHearsIs(bool hears) noexcept { hears_ = hears; }
+
   /// For `isRegisteredNotifieeIs` of the classes that know a list: the flag alone.
   void moxRegisteredIs(bool registered) const noexcept { registered_ = registered; }
 
@@ -102,6 +108,7 @@ class PtrInterface::NotifieeConst : public PtrInterface {
   Mox_BitSet bits_;
   bool weak_ = false;
   mutable bool registered_ = false;
+  bool hears_ = true;
 };
 
 /// An observer that may write to what it observes.

@@ -6,8 +6,6 @@
 #include "Mox/Strep.h"
 #include "standin/mox/FreeList.h"
 
-#include <type_traits>
-
 namespace Mox {
 
 namespace {
@@ -71,7 +69,8 @@ MoxType* primitive(char const* name) {
   return type;
 }
 
-/// What is read and let go again and again: one interface of each type stays.
+/// What is read and let go again and again: one interface of each type stays, with what it held
+/// last.
 template <class T>
 constinit PrimitiveIf<T>* spare = nullptr;
 
@@ -79,19 +78,15 @@ constinit PrimitiveIf<T>* spare = nullptr;
 
 template <Primitive T>
 GenericIf::Ptr primitiveIf(T const& value, bool isConst) {
-  // Only what has nothing to release may wait for its next use.
-  if constexpr (std::is_trivially_destructible_v<T>) {
-    if (FreeList::keeps()) [[likely]] {
-      PrimitiveIf<T>*& one = spare<T>;
-      if (one && one->servesAgain(value, isConst)) [[likely]]
-        return one;
-      if (one) one->referencesDec();
-      one = new PrimitiveIf<T>(value, isConst);
-      one->referencesInc();
-      return one;
-    }
-  }
-  return new PrimitiveIf<T>(value, isConst);
+  if (!FreeList::keeps()) [[unlikely]]
+    return new PrimitiveIf<T>(value, isConst);
+  PrimitiveIf<T>*& one = spare<T>;
+  if (one && one->servesAgain(value, isConst)) [[likely]]
+    return one;
+  if (one) one->referencesDec();
+  one = new PrimitiveIf<T>(value, isConst);
+  one->referencesInc();
+  return one;
 }
 
 template GenericIf::Ptr primitiveIf(bool const&, bool);

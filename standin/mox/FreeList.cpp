@@ -22,19 +22,6 @@ struct SizeClass {
 
 constinit SizeClass classes[FreeList::largest / step] = {};
 
-// The sanitizer must see each block come and go, or it can't tell a use after free.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool listed = false;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-constexpr bool listed = false;
-#else
-constexpr bool listed = true;
-#endif
-#else
-constexpr bool listed = true;
-#endif
-
 bool usable(std::size_t size) noexcept { return FreeList::keeps() && size <= FreeList::largest; }
 
 // Size 0 is served as size 1.
@@ -71,7 +58,6 @@ void given(void* block, std::size_t size) noexcept {
 
 }  // namespace
 
-bool FreeList::keeps() noexcept { return listed && !ReferenceWord::threadSafe; }
 void* FreeList::take(std::size_t size) { return taken(size); }
 void FreeList::give(void* block, std::size_t size) noexcept { given(block, size); }
 std::size_t FreeList::kept(std::size_t size) noexcept { return classes[classOf(size)].blocks; }

@@ -1,6 +1,8 @@
 // Storage of nodes and bucket arrays, from free lists by size.
 #pragma once
 
+#include "Mox/ReferenceWord.h"
+
 #include <cstddef>
 
 namespace Mox {
@@ -22,9 +24,23 @@ class FreeList {
   static void give(void* block, std::size_t size) noexcept;
   /// Whether blocks are kept at all now: not while several threads run, nor under a sanitizer,
   /// which must see each come and go.
-  static bool keeps() noexcept;
+  static bool keeps() noexcept { return listed && !ReferenceWord::threadSafe; }
   /// Blocks that the list of this size keeps now.
   static std::size_t kept(std::size_t size) noexcept;
+
+ private:
+  // The sanitizer must see each block come and go, or it can't tell a use after free.
+#if defined(__SANITIZE_ADDRESS__)
+  static constexpr bool listed = false;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+  static constexpr bool listed = false;
+#else
+  static constexpr bool listed = true;
+#endif
+#else
+  static constexpr bool listed = true;
+#endif
 };
 
 }  // namespace Mox

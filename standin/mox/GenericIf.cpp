@@ -32,30 +32,22 @@ GenericIf::AttributeIteratorConst GenericIf::attributeIteratorKeyConst(Attribute
 }
 
 bool GenericIf::attributeIterator_nonNull(AttributeIteratorConst const& at) const {
-  return at.state() && at.state()->nonNull();
+  return static_cast<bool>(at);
 }
-
 GenericIf::Ptr GenericIf::attributeIterator_iterObj(AttributeIteratorConst const& at) {
-  return GenericIf::attributeIterator_nonNull(at) ? at.state()->obj(isConst()) : nullptr;
+  return at.obj();
 }
-
 GenericIf::PtrConst GenericIf::attributeIterator_iterObj(AttributeIteratorConst const& at) const {
-  return const_cast<GenericIf*>(this)->attributeIterator_iterObj(at);
+  return at.obj();
 }
-
 GenericIf::PtrConst GenericIf::attributeIterator_iterKey(AttributeIteratorConst const& at) const {
-  return GenericIf::attributeIterator_nonNull(at) ? at.state()->key() : nullptr;
+  return at.key();
 }
-
-void GenericIf::attributeIterator_iterInc(AttributeIteratorConst& at) const {
-  if (at.state()) at.state()->inc();
-}
-
-void GenericIf::attributeIterator_iterDel(AttributeIteratorConst& at) const { at.stateIs(nullptr); }
-
+void GenericIf::attributeIterator_iterInc(AttributeIteratorConst& at) const { ++at; }
+void GenericIf::attributeIterator_iterDel(AttributeIteratorConst& at) const { at.clear(); }
 GenericIf::AttributeIteratorConst GenericIf::attributeIterator_iterClone(
     AttributeIteratorConst const& at) const {
-  return {this, at.state() ? at.state()->clone() : nullptr};
+  return at;
 }
 
 void const* GenericIf::voidPtrIs(Mox::Ptr<MoxType const> const& type) const {
@@ -66,7 +58,7 @@ void const* GenericIf::voidPtrIs(Mox::Ptr<MoxType const> const& type) const {
 MoxType const* GenericIf::type() const { return type_; }
 
 AttributeId GenericIf::attributeId(String8 const& name) const {
-  auto const* const attribute = type()->attributeByName(name);
+  auto const* const attribute = type_->attributeByName(name);
   if (!attribute) throwUnknownAttrException(type()->moxName().stringValue());
   return attribute->id();
 }
@@ -79,13 +71,10 @@ void GenericIf::moxDoZombieReactors(bool zombie) {
   if (zombie != moxMarkedForDeletion()) moxMarkedForDeletionIs(zombie);
 }
 
-void const* GenericIf::requireHeld(PtrConst const& given, MoxType const* type, char const* name) {
-  if (!given) throwTypeException(name);
-  if (given->type_ == type) [[likely]]
-    return given->held_;
-  // A class of its own may hold the type all the same.
+void const* GenericIf::requireOther(PtrConst const& given, MoxType const* type, char const* name) {
   try {
-    if (auto const* const held = given->voidPtrIs(type)) return held;
+    auto const* const held = given ? given->voidPtrIs(type) : nullptr;
+    if (held) return held;
   } catch (TypeException const&) {
   }
   throwTypeException(name);

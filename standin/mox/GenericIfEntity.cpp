@@ -25,6 +25,18 @@ void GenericIfEntity::notifierIs(Mox::Ptr<PtrInterface const> const& notifier) {
   moxRegisteredIs(false);  // only its adapters stand in the entity's list
 }
 
+void GenericIfEntity::watcherIs(Mox::Ptr<Watcher> const& watcher) {
+  watcher_ = watcher;
+  if (watcher) moxAdaptersHearIs(true);
+}
+
+void GenericIfEntity::activityIs(Mox::Ptr<ActivityConfig> const& activity) {
+  activity_ = activity;
+  if (activity) moxAdaptersHearIs(true);
+}
+
+void GenericIfEntity::moxAdaptersHearIs(bool) {}
+
 void GenericIfEntity::onZeroReferences() { notifierIs(nullptr); }
 
 Name GenericIfEntity::name() const { return entity() ? entity()->name() : Name(); }

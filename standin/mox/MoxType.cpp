@@ -74,13 +74,19 @@ MoxAttr const* MoxType::attributeById(AttributeId id) const noexcept {
   return entry ? entry->value().ptr() : nullptr;
 }
 
-MoxAttr const* MoxType::attributeByName(Name const& name) const {
-  if (byName_.count() == 0)
-    for (auto const& entry : queue_)
-      if (Name const& its = entry.value()->moxName(); !byName_.isMember(its))
-        byName_.newMember(new MapNode<Name, MoxAttr const*>(its, entry.value().ptr()));
+MoxAttr const* MoxType::attributeByName(String8 const& name) const {
+  if (byName_.empty()) [[unlikely]]
+    indexNames();
   auto const* const node = byName_.find(name);
   return node ? node->value() : nullptr;
+}
+
+void MoxType::indexNames() const {
+  for (auto const& entry : queue_) {
+    String8 const& name = entry.value()->moxName().stringValue();
+    if (!byName_.isMember(name))
+      byName_.newMember(new MapNode<String8, MoxAttr const*>(name, entry.value().ptr()));
+  }
 }
 
 Ptr<GenericIf> MoxType::genericIf(void const* value, bool isConst) const {
