@@ -182,6 +182,19 @@ void qtMetacallRead(benchmark::State& state) {
 }
 BENCHMARK(qtMetacallRead);
 
+void qtMetacallWrite(benchmark::State& state) {
+  QtCounters counters;
+  int index = QtCounters::staticMetaObject.indexOfProperty("fecCorrected");
+  unsigned value = 0;
+  void* arguments[] = {&value};
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(index);
+    ++value;
+    counters.qt_metacall(QMetaObject::WriteProperty, index, arguments);
+  }
+}
+BENCHMARK(qtMetacallWrite);
+
 void qtIndexRead(benchmark::State& state) {
   QtCounters counters;
   int const index = QtCounters::staticMetaObject.indexOfProperty("fecCorrected");

@@ -61,11 +61,10 @@ void nullObject(GenericIf const& face) {
   Mox::throwRangeException("null " + face.type()->moxName().stringValue());
 }
 
-GenericIf::Ptr perform(Row const& row, Target const& target, GenericIf::OpId op,
-                       GenericIf::PtrConst const& index, GenericIf::PtrConst const& value) {
+GenericIf::Ptr performOther(Row const& row, Target const& target, GenericIf::OpId op,
+                            GenericIf::PtrConst const& index, GenericIf::PtrConst const& value) {
   if (row.collection) return performOnCollection(row, target, op, index, value);
   if (index) GenericIf::throwBadIndexAttrException(row.name);
-  if (op == GenericIf::opRead && row.read) return row.read(row, target);
   if (op == GenericIf::opWrite && row.write) {
     row.write(target.object, valueOf(row, value));
     return nullptr;

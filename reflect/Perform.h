@@ -8,11 +8,20 @@ namespace reflect {
 /// Raises `RangeException` "null <type>".
 [[noreturn]] void nullObject(GenericIf const& face);
 
+/// The rest of `perform`.
+GenericIf::Ptr performOther(Row const& row, Target const& target, GenericIf::OpId op,
+                            GenericIf::PtrConst const& index, GenericIf::PtrConst const& value);
+
 /// Does what `op` asks of the attribute of `row`; for what is raised see `GenericIf::attributeOp`.
 /// An operation of an object is called by `opWrite`: `value` holds its argument, a `List_` where
 /// there are several; one that is missing raises `TypeException` with its name.
-GenericIf::Ptr perform(Row const& row, Target const& target, GenericIf::OpId op,
-                       GenericIf::PtrConst const& index, GenericIf::PtrConst const& value);
+// Inline is what is asked most: to read a scalar.
+inline GenericIf::Ptr perform(Row const& row, Target const& target, GenericIf::OpId op,
+                              GenericIf::PtrConst const& index, GenericIf::PtrConst const& value) {
+  if (op == GenericIf::opRead && row.read && !index) [[likely]]
+    return row.read(target.object, target.isConst, row.type);
+  return performOther(row, target, op, index, value);
+}
 
 /// The same for an attribute of the base of a value's type, of which `held` is the base's part; one
 /// that the base doesn't have either is unknown to the type of `face`.

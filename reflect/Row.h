@@ -45,7 +45,7 @@ struct Row {
   char const* name;
   frame::TypeOf type = nullptr;  ///< of the value, or of an operation's result
   frame::TypeOf key = nullptr;   ///< of a collection's keys
-  GenericIf::Ptr (*read)(Row const& row, Target const& target) = nullptr;
+  GenericIf::Ptr (*read)(void const* object, bool isConst, frame::TypeOf type) = nullptr;
   void (*write)(void* object, void const* value) = nullptr;
   Collection const* collection = nullptr;
   GenericIf::Ptr (*call)(Row const& row, Target const& target,

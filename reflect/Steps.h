@@ -27,9 +27,8 @@ using ClassOf = typename MemberOf<decltype(member)>::Class;
 
 /// Reads by the accessor `get`.
 template <auto get>
-GenericIf::Ptr read(Row const& row, Target const& target) {
-  return faceOf((static_cast<ClassOf<get> const*>(target.object)->*get)(), row.type,
-                target.isConst);
+GenericIf::Ptr read(void const* object, bool isConst, frame::TypeOf type) {
+  return faceOf((static_cast<ClassOf<get> const*>(object)->*get)(), type, isConst);
 }
 
 template <class Value>

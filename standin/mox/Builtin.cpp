@@ -39,9 +39,12 @@ class PrimitiveIf : public GenericIf {
   Ptr clone() override { return primitiveIf(value_, isConst()); }
   String8 strRep() const override { return textOf(value_); }
 
-  /// Takes another value, if nobody but the caller holds this interface, or could.
-  bool servesAgain(T const& value, bool isConst) {
-    if (referenceWord() != (ReferenceWord::notificationActive | 1)) return false;
+  /// Hands this interface out with another value, if nobody but the keeper of spares holds it.
+  bool servesAgain(typename Builtin<T>::Passed value, bool isConst) {
+    constexpr U32 kept = ReferenceWord::notificationActive | 1;
+    if (referenceWord() != kept) return false;
+    // Not counted up: what isn't read first can't be waited for.
+    referenceWord_ = ReferenceWord(kept + 1);
     value_ = value;
     isConstIs(isConst);
     return true;
@@ -76,35 +79,20 @@ constinit PrimitiveIf<T>* spare = nullptr;
 
 }  // namespace
 
-template <Primitive T>
-GenericIf::Ptr primitiveIf(T const& value, bool isConst) {
+template <class T>
+GenericIf::Ptr Builtin<T>::genericIf(Passed value, bool isConst) {
   if (!FreeList::keeps()) [[unlikely]]
     return new PrimitiveIf<T>(value, isConst);
   PrimitiveIf<T>*& one = spare<T>;
   if (one && one->servesAgain(value, isConst)) [[likely]]
-    return one;
+    return Ptr<GenericIf>::adopt(one);
   if (one) one->referencesDec();
   one = new PrimitiveIf<T>(value, isConst);
   one->referencesInc();
   return one;
 }
 
-template GenericIf::Ptr primitiveIf(bool const&, bool);
-template GenericIf::Ptr primitiveIf(U8 const&, bool);
-template GenericIf::Ptr primitiveIf(S8 const&, bool);
-template GenericIf::Ptr primitiveIf(U16 const&, bool);
-template GenericIf::Ptr primitiveIf(U32 const&, bool);
-template GenericIf::Ptr primitiveIf(S32 const&, bool);
-template GenericIf::Ptr primitiveIf(U64 const&, bool);
-template GenericIf::Ptr primitiveIf(double const&, bool);
-template GenericIf::Ptr primitiveIf(String8 const&, bool);
-template GenericIf::Ptr primitiveIf(Name const&, bool);
-template GenericIf::Ptr primitiveIf(void* const&, bool);
-
-template <>
-MoxType* Builtin<void>::_fwkType() {
-  return MoxType::opaque("void");
-}
+MoxType* Builtin<void>::_fwkType() { return MoxType::opaque("void"); }
 template <>
 MoxType* Builtin<void*>::_fwkType() {
   return primitive<void*>("VoidPtr");
@@ -149,6 +137,18 @@ template <>
 MoxType* Builtin<Name>::_fwkType() {
   return primitive<Name>("Mox::Name");
 }
+
+template GenericIf::Ptr Builtin<bool>::genericIf(Passed, bool);
+template GenericIf::Ptr Builtin<U8>::genericIf(Passed, bool);
+template GenericIf::Ptr Builtin<S8>::genericIf(Passed, bool);
+template GenericIf::Ptr Builtin<U16>::genericIf(Passed, bool);
+template GenericIf::Ptr Builtin<U32>::genericIf(Passed, bool);
+template GenericIf::Ptr Builtin<S32>::genericIf(Passed, bool);
+template GenericIf::Ptr Builtin<U64>::genericIf(Passed, bool);
+template GenericIf::Ptr Builtin<double>::genericIf(Passed, bool);
+template GenericIf::Ptr Builtin<String8>::genericIf(Passed, bool);
+template GenericIf::Ptr Builtin<Name>::genericIf(Passed, bool);
+template GenericIf::Ptr Builtin<void*>::genericIf(Passed, bool);
 
 MoxType* Name::_fwkType() { return Builtin<Name>::_fwkType(); }
 

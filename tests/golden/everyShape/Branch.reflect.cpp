@@ -26,6 +26,9 @@ struct Branch::GenericIf_::MoxTable {
           .read = reflect::read<&Branch::moxHasAttrLogInterface>},
       {.id = 0, .name = "fwkKey"},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return reflect::targetOf<Branch>(face.entity(), face);
+  }
   static constexpr reflect::Told told[] = {
       {388, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onTwig(); }},
       {389, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onBud(); }},
@@ -33,7 +36,7 @@ struct Branch::GenericIf_::MoxTable {
 };
 
 Mox::GenericIf::Ptr Branch::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
-  return reflect::active(new GenericIf_(reflect::requireObject<Branch>(object), isConst));
+  return reflect::unwatched(new GenericIf_(reflect::requireObject<Branch>(object), isConst));
 }
 
 Branch::GenericIf_::GenericIf_(Mox::Ptr<Branch> const& object, bool isConst) : GenericIf_(object,
@@ -45,30 +48,28 @@ Branch::GenericIf_::GenericIf_(Mox::Ptr<Branch> const& object, Mox::MoxType cons
 Branch::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
 
 Mox::Ptr<Branch> Branch::GenericIf_::obj() const { return static_cast<Branch*>(entity()); }
-reflect::Target Branch::GenericIf_::target() const {
-  return reflect::targetOf<Branch>(entity(), *this);
-}
 
 Mox::GenericIf::Ptr Branch::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
-      index, value);
+  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
+      value) : MoxBase::attributeOp(op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Branch::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
+  return row ? reflect::walk(*this, *row,
+      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Branch::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
-      key);
+  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+      key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Branch::GenericIf_::clone() {
-  return reflect::active(new GenericIf_(obj(), isConst()));
+  return reflect::unwatched(new GenericIf_(obj(), isConst()));
 }
 Mox::GenericIf::Ptr Branch::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   reflect::Arguments const given(MoxTable::constructorTypes, list, "Branch");
@@ -95,6 +96,11 @@ void Branch::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
   MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
+}
+
+void Branch::GenericIf_::moxAdaptersHearIs(bool hears) {
+  MoxBase::moxAdaptersHearIs(hears);
+  adapter_->moxHearsIs(hears);
 }
 
 void Branch::GenericIf_::onTwig() { reflect::changed(*this, 388); }

@@ -5,7 +5,6 @@
 #include "everyShape/Stem.reflect.h"
 #include "frame/Adapter.h"
 #include "reflect/Batch.h"
-#include "reflect/Row.h"
 
 namespace everyShape {
 
@@ -37,6 +36,7 @@ class Branch::GenericIf_ : public Stem::GenericIf_ {
   void notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) override;
   void moxDoZombieReactors(bool zombie) override;
   void hasNotificationActiveIs(bool active) override;
+  void moxAdaptersHearIs(bool hears) override;
 
   /// Tells of a change: at once, or in the next batch.
   virtual void onTwig();
@@ -49,7 +49,6 @@ class Branch::GenericIf_ : public Stem::GenericIf_ {
  private:
   using MoxBase = Stem::GenericIf_;
   struct MoxTable;
-  reflect::Target target() const;
 
   Mox::Ptr<GenericIf_Adapter_> adapter_;
 };

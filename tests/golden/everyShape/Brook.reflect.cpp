@@ -15,13 +15,16 @@ struct Brook::GenericIf_::MoxTable {
       {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
           .read = reflect::read<&Brook::moxHasAttrLogInterface>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return reflect::targetOf<Brook>(face.entity(), face);
+  }
   static constexpr reflect::Told told[] = {
       {258, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onGrove(); }},
   };
 };
 
 Mox::GenericIf::Ptr Brook::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
-  return reflect::active(new GenericIf_(reflect::requireObject<Brook>(object), isConst));
+  return reflect::unwatched(new GenericIf_(reflect::requireObject<Brook>(object), isConst));
 }
 
 Brook::GenericIf_::GenericIf_(Mox::Ptr<Brook> const& object, bool isConst) : GenericIf_(object,
@@ -33,30 +36,28 @@ Brook::GenericIf_::GenericIf_(Mox::Ptr<Brook> const& object, Mox::MoxType const*
 Brook::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
 
 Mox::Ptr<Brook> Brook::GenericIf_::obj() const { return static_cast<Brook*>(entity()); }
-reflect::Target Brook::GenericIf_::target() const {
-  return reflect::targetOf<Brook>(entity(), *this);
-}
 
 Mox::GenericIf::Ptr Brook::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
-      index, value);
+  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
+      value) : MoxBase::attributeOp(op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Brook::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
+  return row ? reflect::walk(*this, *row,
+      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Brook::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
-      key);
+  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+      key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Brook::GenericIf_::clone() {
-  return reflect::active(new GenericIf_(obj(), isConst()));
+  return reflect::unwatched(new GenericIf_(obj(), isConst()));
 }
 
 void Brook::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
@@ -79,6 +80,11 @@ void Brook::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
   MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
+}
+
+void Brook::GenericIf_::moxAdaptersHearIs(bool hears) {
+  MoxBase::moxAdaptersHearIs(hears);
+  adapter_->moxHearsIs(hears);
 }
 
 void Brook::GenericIf_::onGrove() { reflect::changed(*this, 258); }

@@ -22,6 +22,9 @@ struct Bush::GenericIf_::MoxTable {
       {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
           .read = reflect::read<&Bush::moxHasAttrLogInterface>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return reflect::targetOf<Bush>(face.entity(), face);
+  }
   static constexpr reflect::Told told[] = {
       {259, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
@@ -32,7 +35,7 @@ struct Bush::GenericIf_::MoxTable {
 };
 
 Mox::GenericIf::Ptr Bush::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
-  return reflect::active(new GenericIf_(reflect::requireObject<Bush>(object), isConst));
+  return reflect::unwatched(new GenericIf_(reflect::requireObject<Bush>(object), isConst));
 }
 
 Bush::GenericIf_::GenericIf_(Mox::Ptr<Bush> const& object, bool isConst) : GenericIf_(object,
@@ -44,30 +47,28 @@ Bush::GenericIf_::GenericIf_(Mox::Ptr<Bush> const& object, Mox::MoxType const* t
 Bush::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
 
 Mox::Ptr<Bush> Bush::GenericIf_::obj() const { return static_cast<Bush*>(entity()); }
-reflect::Target Bush::GenericIf_::target() const {
-  return reflect::targetOf<Bush>(entity(), *this);
-}
 
 Mox::GenericIf::Ptr Bush::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
-      index, value);
+  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
+      value) : MoxBase::attributeOp(op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Bush::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
+  return row ? reflect::walk(*this, *row,
+      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Bush::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
-      key);
+  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+      key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Bush::GenericIf_::clone() {
-  return reflect::active(new GenericIf_(obj(), isConst()));
+  return reflect::unwatched(new GenericIf_(obj(), isConst()));
 }
 Mox::GenericIf::Ptr Bush::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   reflect::Arguments const given(MoxTable::constructorTypes, list, "Bush");
@@ -94,6 +95,11 @@ void Bush::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
   MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
+}
+
+void Bush::GenericIf_::moxAdaptersHearIs(bool hears) {
+  MoxBase::moxAdaptersHearIs(hears);
+  adapter_->moxHearsIs(hears);
 }
 
 void Bush::GenericIf_::onBranches(U16 key) {

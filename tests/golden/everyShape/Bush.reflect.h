@@ -4,7 +4,6 @@
 #include "everyShape/Bush.h"
 #include "frame/Adapter.h"
 #include "reflect/Batch.h"
-#include "reflect/Row.h"
 
 namespace everyShape {
 
@@ -36,6 +35,7 @@ class Bush::GenericIf_ : public Mox::GenericIfEntity {
   void notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) override;
   void moxDoZombieReactors(bool zombie) override;
   void hasNotificationActiveIs(bool active) override;
+  void moxAdaptersHearIs(bool hears) override;
 
   /// Tells of a change under `key`: at once, or in the next batch, in which several are one without a
   /// key.
@@ -48,7 +48,6 @@ class Bush::GenericIf_ : public Mox::GenericIfEntity {
  private:
   using MoxBase = Mox::GenericIfEntity;
   struct MoxTable;
-  reflect::Target target() const;
 
   Mox::Ptr<GenericIf_Adapter_> adapter_;
 };

@@ -19,6 +19,9 @@ struct Derived::GenericIf_::MoxTable {
       {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
           .read = reflect::read<&Derived::moxHasAttrLogInterface>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return reflect::targetOf<Derived>(face.entity(), face);
+  }
   static constexpr reflect::Told told[] = {
       {386, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onExtra(); }},
       {387, true, [](Mox::GenericIfEntity& face) {
@@ -30,7 +33,7 @@ struct Derived::GenericIf_::MoxTable {
 };
 
 Mox::GenericIf::Ptr Derived::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
-  return reflect::active(new GenericIf_(reflect::requireObject<Derived>(object), isConst));
+  return reflect::unwatched(new GenericIf_(reflect::requireObject<Derived>(object), isConst));
 }
 
 Derived::GenericIf_::GenericIf_(Mox::Ptr<Derived> const& object, bool isConst) : GenericIf_(object,
@@ -42,30 +45,28 @@ Derived::GenericIf_::GenericIf_(Mox::Ptr<Derived> const& object, Mox::MoxType co
 Derived::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
 
 Mox::Ptr<Derived> Derived::GenericIf_::obj() const { return static_cast<Derived*>(entity()); }
-reflect::Target Derived::GenericIf_::target() const {
-  return reflect::targetOf<Derived>(entity(), *this);
-}
 
 Mox::GenericIf::Ptr Derived::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
-      index, value);
+  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
+      value) : MoxBase::attributeOp(op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Derived::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
+  return row ? reflect::walk(*this, *row,
+      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Derived::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
-      key);
+  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+      key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Derived::GenericIf_::clone() {
-  return reflect::active(new GenericIf_(obj(), isConst()));
+  return reflect::unwatched(new GenericIf_(obj(), isConst()));
 }
 
 void Derived::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
@@ -88,6 +89,11 @@ void Derived::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
   MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
+}
+
+void Derived::GenericIf_::moxAdaptersHearIs(bool hears) {
+  MoxBase::moxAdaptersHearIs(hears);
+  adapter_->moxHearsIs(hears);
 }
 
 void Derived::GenericIf_::onExtra() { reflect::changed(*this, 386); }

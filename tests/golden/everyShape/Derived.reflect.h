@@ -5,7 +5,6 @@
 #include "everyShape/Every.reflect.h"
 #include "frame/Adapter.h"
 #include "reflect/Batch.h"
-#include "reflect/Row.h"
 
 namespace everyShape {
 
@@ -36,6 +35,7 @@ class Derived::GenericIf_ : public Every::GenericIf_ {
   void notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) override;
   void moxDoZombieReactors(bool zombie) override;
   void hasNotificationActiveIs(bool active) override;
+  void moxAdaptersHearIs(bool hears) override;
 
   /// Tells of a change: at once, or in the next batch.
   virtual void onExtra();
@@ -50,7 +50,6 @@ class Derived::GenericIf_ : public Every::GenericIf_ {
  private:
   using MoxBase = Every::GenericIf_;
   struct MoxTable;
-  reflect::Target target() const;
 
   Mox::Ptr<GenericIf_Adapter_> adapter_;
 };

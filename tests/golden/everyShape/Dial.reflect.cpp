@@ -14,6 +14,9 @@ struct Dial::GenericIf_::MoxTable {
       {.id = 3, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Dial::hash>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return {const_cast<Dial*>(&face.value_), &face, face.isConst()};
+  }
 };
 
 Mox::GenericIf::Ptr Dial::_Type::genericIf(void const* value, bool isConst) const {
@@ -27,16 +30,13 @@ Dial::GenericIf_::GenericIf_(Dial const& value, bool isConst) : GenericIf(Dial::
     isConst), value_(value) {
   heldIs(&value_);
 }
-reflect::Target Dial::GenericIf_::target() const {
-  return {const_cast<Dial*>(&value_), this, isConst()};
-}
 
 Mox::GenericIf::Ptr Dial::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Dial");
-  return reflect::perform(*row, target(), op.opId, index, value);
+  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
 }
 Mox::GenericIf::Ptr Dial::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "everyShape/Dial.h"
-#include "reflect/Row.h"
 
 namespace everyShape {
 
@@ -26,7 +25,6 @@ class Dial::GenericIf_ : public Mox::GenericIf {
  private:
   using MoxBase = Mox::GenericIf;
   struct MoxTable;
-  reflect::Target target() const;
 
   Dial value_;
 };

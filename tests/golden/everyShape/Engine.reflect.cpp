@@ -20,6 +20,9 @@ struct Engine::GenericIf_::MoxTable {
           .read = reflect::read<&Engine::heat>},
       {.id = 0, .name = "moxFwkActivity"},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return reflect::targetOf<Engine>(face.obj().ptr(), face);
+  }
 };
 
 Mox::GenericIf::Ptr Engine::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
@@ -35,16 +38,13 @@ Engine::GenericIf_::GenericIf_(Mox::Ptr<Engine> const& object,
 Mox::Ptr<Engine> Engine::GenericIf_::obj() const {
   return const_cast<Engine*>(static_cast<Engine const*>(moxNotifier()));
 }
-reflect::Target Engine::GenericIf_::target() const {
-  return reflect::targetOf<Engine>(obj().ptr(), *this);
-}
 
 Mox::GenericIf::Ptr Engine::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Engine");
-  return reflect::perform(*row, target(), op.opId, index, value);
+  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
 }
 Mox::GenericIf::Ptr Engine::GenericIf_::clone() {
   return reflect::active(new GenericIf_(obj(), isConst()));

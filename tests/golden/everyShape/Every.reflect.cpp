@@ -59,6 +59,9 @@ struct Every::GenericIf_::MoxTable {
       {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
           .read = reflect::read<&Every::moxHasAttrLogInterface>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return reflect::targetOf<Every>(face.entity(), face);
+  }
   static constexpr reflect::Told told[] = {
       {259, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onLevel(); }},
       {260, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onGauge(); }},
@@ -110,7 +113,7 @@ struct Every::GenericIf_::MoxTable {
 };
 
 Mox::GenericIf::Ptr Every::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
-  return reflect::active(new GenericIf_(reflect::requireObject<Every>(object), isConst));
+  return reflect::unwatched(new GenericIf_(reflect::requireObject<Every>(object), isConst));
 }
 
 Every::GenericIf_::GenericIf_(Mox::Ptr<Every> const& object, bool isConst) : GenericIf_(object,
@@ -122,30 +125,28 @@ Every::GenericIf_::GenericIf_(Mox::Ptr<Every> const& object, Mox::MoxType const*
 Every::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
 
 Mox::Ptr<Every> Every::GenericIf_::obj() const { return static_cast<Every*>(entity()); }
-reflect::Target Every::GenericIf_::target() const {
-  return reflect::targetOf<Every>(entity(), *this);
-}
 
 Mox::GenericIf::Ptr Every::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
-      index, value);
+  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
+      value) : MoxBase::attributeOp(op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Every::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
+  return row ? reflect::walk(*this, *row,
+      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Every::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
-      key);
+  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+      key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Every::GenericIf_::clone() {
-  return reflect::active(new GenericIf_(obj(), isConst()));
+  return reflect::unwatched(new GenericIf_(obj(), isConst()));
 }
 Mox::GenericIf::Ptr Every::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   reflect::Arguments const given(MoxTable::constructorTypes, list, "Every");
@@ -172,6 +173,11 @@ void Every::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
   MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
+}
+
+void Every::GenericIf_::moxAdaptersHearIs(bool hears) {
+  MoxBase::moxAdaptersHearIs(hears);
+  adapter_->moxHearsIs(hears);
 }
 
 void Every::GenericIf_::onLevel() { reflect::changed(*this, 259); }

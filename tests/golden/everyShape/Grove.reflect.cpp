@@ -33,6 +33,9 @@ struct Grove::GenericIf_::MoxTable {
       {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
           .read = reflect::read<&Grove::moxHasAttrLogInterface>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return reflect::targetOf<Grove>(face.entity(), face);
+  }
   static constexpr reflect::Told told[] = {
       {258, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
@@ -58,7 +61,7 @@ Mox::Ptr<Mox::Entity> Grove::_Type::newEntity(Mox::Name const& name, Mox::Dir*) 
   return new Grove(name);
 }
 Mox::GenericIf::Ptr Grove::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
-  return reflect::active(new GenericIf_(reflect::requireObject<Grove>(object), isConst));
+  return reflect::unwatched(new GenericIf_(reflect::requireObject<Grove>(object), isConst));
 }
 
 Grove::GenericIf_::GenericIf_(Mox::Ptr<Grove> const& object, bool isConst) : GenericIf_(object,
@@ -70,30 +73,28 @@ Grove::GenericIf_::GenericIf_(Mox::Ptr<Grove> const& object, Mox::MoxType const*
 Grove::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
 
 Mox::Ptr<Grove> Grove::GenericIf_::obj() const { return static_cast<Grove*>(entity()); }
-reflect::Target Grove::GenericIf_::target() const {
-  return reflect::targetOf<Grove>(entity(), *this);
-}
 
 Mox::GenericIf::Ptr Grove::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
-      index, value);
+  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
+      value) : MoxBase::attributeOp(op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Grove::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
+  return row ? reflect::walk(*this, *row,
+      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Grove::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
-      key);
+  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+      key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Grove::GenericIf_::clone() {
-  return reflect::active(new GenericIf_(obj(), isConst()));
+  return reflect::unwatched(new GenericIf_(obj(), isConst()));
 }
 
 void Grove::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
@@ -116,6 +117,11 @@ void Grove::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
   MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
+}
+
+void Grove::GenericIf_::moxAdaptersHearIs(bool hears) {
+  MoxBase::moxAdaptersHearIs(hears);
+  adapter_->moxHearsIs(hears);
 }
 
 void Grove::GenericIf_::onTree(Mox::Name key) {

@@ -16,6 +16,9 @@ struct Heap::GenericIf_::MoxTable {
       {.id = 3, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Heap::hash>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return {const_cast<Heap*>(&face.value_), &face, face.isConst()};
+  }
 };
 
 Mox::GenericIf::Ptr Heap::_Type::genericIf(void const* value, bool isConst) const {
@@ -29,27 +32,25 @@ Heap::GenericIf_::GenericIf_(Heap const& value, bool isConst) : GenericIf(Heap::
     isConst), value_(value) {
   heldIs(&value_);
 }
-reflect::Target Heap::GenericIf_::target() const {
-  return {const_cast<Heap*>(&value_), this, isConst()};
-}
 
 Mox::GenericIf::Ptr Heap::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Heap");
-  return reflect::perform(*row, target(), op.opId, index, value);
+  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Heap::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
+  return row ? reflect::walk(*this, *row,
+      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Heap::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
-      key);
+  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+      key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Heap::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "everyShape/Heap.h"
-#include "reflect/Row.h"
 
 namespace everyShape {
 
@@ -28,7 +27,6 @@ class Heap::GenericIf_ : public Mox::GenericIf {
  private:
   using MoxBase = Mox::GenericIf;
   struct MoxTable;
-  reflect::Target target() const;
 
   Heap value_;
 };

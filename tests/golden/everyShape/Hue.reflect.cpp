@@ -14,6 +14,9 @@ struct Hue::GenericIf_::MoxTable {
       {.id = 3, .name = "hash", .type = Mox::Builtin<U16>::_fwkType,
           .read = reflect::read<&Hue::hash>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return {const_cast<Hue*>(&face.value_), &face, face.isConst()};
+  }
 };
 
 Mox::GenericIf::Ptr Hue::_Type::genericIf(void const* value, bool isConst) const {
@@ -27,16 +30,13 @@ Hue::GenericIf_::GenericIf_(Hue const& value, bool isConst) : GenericIf(Hue::_fw
     value_(value) {
   heldIs(&value_);
 }
-reflect::Target Hue::GenericIf_::target() const {
-  return {const_cast<Hue*>(&value_), this, isConst()};
-}
 
 Mox::GenericIf::Ptr Hue::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Hue");
-  return reflect::perform(*row, target(), op.opId, index, value);
+  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
 }
 Mox::GenericIf::Ptr Hue::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

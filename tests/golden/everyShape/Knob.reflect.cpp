@@ -15,6 +15,9 @@ struct Knob::GenericIf_::MoxTable {
       {.id = 3, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Knob::hash>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return {const_cast<Knob*>(&face.value_), &face, face.isConst()};
+  }
 };
 
 Mox::GenericIf::Ptr Knob::_Type::genericIf(void const* value, bool isConst) const {
@@ -28,16 +31,13 @@ Knob::GenericIf_::GenericIf_(Knob const& value, bool isConst) : GenericIf(Knob::
     isConst), value_(value) {
   heldIs(&value_);
 }
-reflect::Target Knob::GenericIf_::target() const {
-  return {const_cast<Knob*>(&value_), this, isConst()};
-}
 
 Mox::GenericIf::Ptr Knob::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Knob");
-  return reflect::perform(*row, target(), op.opId, index, value);
+  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
 }
 Mox::GenericIf::Ptr Knob::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

@@ -24,13 +24,16 @@ struct Leaf::GenericIf_::MoxTable {
           .read = reflect::read<&Leaf::moxHasAttrLogInterface>},
       {.id = 0, .name = "fwkKey"},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return reflect::targetOf<Leaf>(face.entity(), face);
+  }
   static constexpr reflect::Told told[] = {
       {260, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onLit(); }},
   };
 };
 
 Mox::GenericIf::Ptr Leaf::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
-  return reflect::active(new GenericIf_(reflect::requireObject<Leaf>(object), isConst));
+  return reflect::unwatched(new GenericIf_(reflect::requireObject<Leaf>(object), isConst));
 }
 
 Leaf::GenericIf_::GenericIf_(Mox::Ptr<Leaf> const& object, bool isConst) : GenericIf_(object,
@@ -42,30 +45,28 @@ Leaf::GenericIf_::GenericIf_(Mox::Ptr<Leaf> const& object, Mox::MoxType const* t
 Leaf::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
 
 Mox::Ptr<Leaf> Leaf::GenericIf_::obj() const { return static_cast<Leaf*>(entity()); }
-reflect::Target Leaf::GenericIf_::target() const {
-  return reflect::targetOf<Leaf>(entity(), *this);
-}
 
 Mox::GenericIf::Ptr Leaf::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
-      index, value);
+  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
+      value) : MoxBase::attributeOp(op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Leaf::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
+  return row ? reflect::walk(*this, *row,
+      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Leaf::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
-      key);
+  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+      key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Leaf::GenericIf_::clone() {
-  return reflect::active(new GenericIf_(obj(), isConst()));
+  return reflect::unwatched(new GenericIf_(obj(), isConst()));
 }
 Mox::GenericIf::Ptr Leaf::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   reflect::Arguments const given(MoxTable::constructorTypes, list, "Leaf");
@@ -92,6 +93,11 @@ void Leaf::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
   MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
+}
+
+void Leaf::GenericIf_::moxAdaptersHearIs(bool hears) {
+  MoxBase::moxAdaptersHearIs(hears);
+  adapter_->moxHearsIs(hears);
 }
 
 void Leaf::GenericIf_::onLit() { reflect::changed(*this, 260); }

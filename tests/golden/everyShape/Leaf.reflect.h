@@ -4,7 +4,6 @@
 #include "everyShape/Leaf.h"
 #include "frame/Adapter.h"
 #include "reflect/Batch.h"
-#include "reflect/Row.h"
 
 namespace everyShape {
 
@@ -36,6 +35,7 @@ class Leaf::GenericIf_ : public Mox::GenericIfEntity {
   void notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) override;
   void moxDoZombieReactors(bool zombie) override;
   void hasNotificationActiveIs(bool active) override;
+  void moxAdaptersHearIs(bool hears) override;
 
   /// Tells of a change: at once, or in the next batch.
   virtual void onLit();
@@ -46,7 +46,6 @@ class Leaf::GenericIf_ : public Mox::GenericIfEntity {
  private:
   using MoxBase = Mox::GenericIfEntity;
   struct MoxTable;
-  reflect::Target target() const;
 
   Mox::Ptr<GenericIf_Adapter_> adapter_;
 };

@@ -14,6 +14,9 @@ struct Level::GenericIf_::MoxTable {
       {.id = 3, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Level::hash>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return {const_cast<Level*>(&face.value_), &face, face.isConst()};
+  }
 };
 
 Mox::GenericIf::Ptr Level::_Type::genericIf(void const* value, bool isConst) const {
@@ -27,16 +30,13 @@ Level::GenericIf_::GenericIf_(Level const& value, bool isConst) : GenericIf(Leve
     isConst), value_(value) {
   heldIs(&value_);
 }
-reflect::Target Level::GenericIf_::target() const {
-  return {const_cast<Level*>(&value_), this, isConst()};
-}
 
 Mox::GenericIf::Ptr Level::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Level");
-  return reflect::perform(*row, target(), op.opId, index, value);
+  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
 }
 Mox::GenericIf::Ptr Level::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "everyShape/Level.h"
-#include "reflect/Row.h"
 
 namespace everyShape {
 
@@ -26,7 +25,6 @@ class Level::GenericIf_ : public Mox::GenericIf {
  private:
   using MoxBase = Mox::GenericIf;
   struct MoxTable;
-  reflect::Target target() const;
 
   Level value_;
 };

@@ -25,6 +25,9 @@ struct Mix::GenericIf_::MoxTable {
       {.id = 7, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Mix::hash>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return {const_cast<Mix*>(&face.value_), &face, face.isConst()};
+  }
 };
 
 Mox::GenericIf::Ptr Mix::_Type::genericIf(void const* value, bool isConst) const {
@@ -38,16 +41,13 @@ Mix::GenericIf_::GenericIf_(Mix const& value, bool isConst) : GenericIf(Mix::_fw
     value_(value) {
   heldIs(&value_);
 }
-reflect::Target Mix::GenericIf_::target() const {
-  return {const_cast<Mix*>(&value_), this, isConst()};
-}
 
 Mox::GenericIf::Ptr Mix::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Mix");
-  return reflect::perform(*row, target(), op.opId, index, value);
+  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
 }
 Mox::GenericIf::Ptr Mix::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

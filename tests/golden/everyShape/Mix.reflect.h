@@ -2,7 +2,6 @@
 #pragma once
 
 #include "everyShape/Mix.h"
-#include "reflect/Row.h"
 
 namespace everyShape {
 
@@ -26,7 +25,6 @@ class Mix::GenericIf_ : public Mox::GenericIf {
  private:
   using MoxBase = Mox::GenericIf;
   struct MoxTable;
-  reflect::Target target() const;
 
   Mix value_;
 };

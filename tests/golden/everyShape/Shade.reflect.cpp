@@ -12,6 +12,9 @@ struct Shade::GenericIf_::MoxTable {
       {.id = 2, .name = "value", .type = Mox::Builtin<U16>::_fwkType,
           .read = reflect::read<&Shade::value>, .write = reflect::construct<Shade, U16>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return {const_cast<Shade*>(&face.value_), &face, face.isConst()};
+  }
 };
 
 Mox::GenericIf::Ptr Shade::_Type::genericIf(void const* value, bool isConst) const {
@@ -25,9 +28,6 @@ Shade::GenericIf_::GenericIf_(Shade const& value, bool isConst) : GenericIf(Shad
     isConst), value_(value) {
   heldIs(&value_);
 }
-reflect::Target Shade::GenericIf_::target() const {
-  return {const_cast<Shade*>(&value_), this, isConst()};
-}
 
 Mox::GenericIf::Ptr Shade::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
@@ -35,7 +35,7 @@ Mox::GenericIf::Ptr Shade::GenericIf_::attributeOp(AttributeOp op, PtrConst cons
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) return reflect::performInBase(*this, static_cast<Hue const*>(&value_), op, index,
       value);
-  return reflect::perform(*row, target(), op.opId, index, value);
+  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
 }
 Mox::GenericIf::Ptr Shade::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "everyShape/Shade.h"
-#include "reflect/Row.h"
 
 namespace everyShape {
 
@@ -26,7 +25,6 @@ class Shade::GenericIf_ : public Mox::GenericIf {
  private:
   using MoxBase = Mox::GenericIf;
   struct MoxTable;
-  reflect::Target target() const;
 
   Shade value_;
 };

@@ -19,6 +19,9 @@ struct Shelf::GenericIf_::MoxTable {
           .key = Mox::Builtin<U32>::_fwkType,
           .collection = &reflect::collection<Shelf::Tags::Labels>},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return reflect::targetOf<Shelf>(face.obj().ptr(), face);
+  }
 };
 
 Mox::GenericIf::Ptr Shelf::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
@@ -34,27 +37,25 @@ Shelf::GenericIf_::GenericIf_(Mox::Ptr<Shelf> const& object,
 Mox::Ptr<Shelf> Shelf::GenericIf_::obj() const {
   return const_cast<Shelf*>(static_cast<Shelf const*>(moxNotifier()));
 }
-reflect::Target Shelf::GenericIf_::target() const {
-  return reflect::targetOf<Shelf>(obj().ptr(), *this);
-}
 
 Mox::GenericIf::Ptr Shelf::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
   if (!row) throwUnknownAttrException("Shelf");
-  return reflect::perform(*row, target(), op.opId, index, value);
+  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Shelf::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
+  return row ? reflect::walk(*this, *row,
+      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Shelf::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
-      key);
+  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+      key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Shelf::GenericIf_::clone() {
   return reflect::active(new GenericIf_(obj(), isConst()));

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "everyShape/Shelf.h"
-#include "reflect/Row.h"
 
 namespace everyShape {
 
@@ -31,7 +30,6 @@ class Shelf::GenericIf_ : public Mox::GenericIf {
  private:
   using MoxBase = Mox::GenericIf;
   struct MoxTable;
-  reflect::Target target() const;
 };
 
 }  // namespace everyShape

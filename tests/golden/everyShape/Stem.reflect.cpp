@@ -25,6 +25,9 @@ struct Stem::GenericIf_::MoxTable {
           .read = reflect::read<&Stem::moxHasAttrLogInterface>},
       {.id = 0, .name = "fwkKey"},
   };
+  static reflect::Target target(GenericIf_ const& face) {
+    return reflect::targetOf<Stem>(face.entity(), face);
+  }
   static constexpr reflect::Told told[] = {
       {259, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onGirth(); }},
       {260, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onRings(); }},
@@ -33,7 +36,7 @@ struct Stem::GenericIf_::MoxTable {
 };
 
 Mox::GenericIf::Ptr Stem::_Type::genericIf_(Mox::PtrInterface* object, bool isConst) const {
-  return reflect::active(new GenericIf_(reflect::requireObject<Stem>(object), isConst));
+  return reflect::unwatched(new GenericIf_(reflect::requireObject<Stem>(object), isConst));
 }
 
 Stem::GenericIf_::GenericIf_(Mox::Ptr<Stem> const& object, bool isConst) : GenericIf_(object,
@@ -45,30 +48,28 @@ Stem::GenericIf_::GenericIf_(Mox::Ptr<Stem> const& object, Mox::MoxType const* t
 Stem::GenericIf_::~GenericIf_() { frame::unhook(*adapter_); }
 
 Mox::Ptr<Stem> Stem::GenericIf_::obj() const { return static_cast<Stem*>(entity()); }
-reflect::Target Stem::GenericIf_::target() const {
-  return reflect::targetOf<Stem>(entity(), *this);
-}
 
 Mox::GenericIf::Ptr Stem::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
   auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, target(), op.opId, index, value) : MoxBase::attributeOp(op,
-      index, value);
+  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
+      value) : MoxBase::attributeOp(op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Stem::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target()) : MoxBase::attributeIteratorConst(id);
+  return row ? reflect::walk(*this, *row,
+      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Stem::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, target(), key) : MoxBase::attributeIteratorKeyConst(id,
-      key);
+  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+      key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Stem::GenericIf_::clone() {
-  return reflect::active(new GenericIf_(obj(), isConst()));
+  return reflect::unwatched(new GenericIf_(obj(), isConst()));
 }
 Mox::GenericIf::Ptr Stem::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
   reflect::Arguments const given(MoxTable::constructorTypes, list, "Stem");
@@ -95,6 +96,11 @@ void Stem::GenericIf_::hasNotificationActiveIs(bool active) {
   if (active == hasNotificationActive()) return;
   MoxBase::hasNotificationActiveIs(active);
   if (adapter_) adapter_->hasNotificationActiveIs(active);
+}
+
+void Stem::GenericIf_::moxAdaptersHearIs(bool hears) {
+  MoxBase::moxAdaptersHearIs(hears);
+  adapter_->moxHearsIs(hears);
 }
 
 void Stem::GenericIf_::onGirth() { reflect::changed(*this, 259); }
