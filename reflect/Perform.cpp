@@ -65,10 +65,6 @@ GenericIf::Ptr performOther(Row const& row, Target const& target, GenericIf::OpI
                             GenericIf::PtrConst const& index, GenericIf::PtrConst const& value) {
   if (row.collection) return performOnCollection(row, target, op, index, value);
   if (index) GenericIf::throwBadIndexAttrException(row.name);
-  if (op == GenericIf::opWrite && row.write) {
-    row.write(target.object, valueOf(row, value));
-    return nullptr;
-  }
   if (op == GenericIf::opWrite && row.call) {
     Arguments const arguments(row, value);
     return row.call(row, target, arguments.held());

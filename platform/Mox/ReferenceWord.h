@@ -38,7 +38,8 @@ class ReferenceWord {
             releaseMask) == 1;
   }
 
-  void inc() noexcept {
+  // Inlined, however large the file: each use of a pointer is made of these two.
+  [[gnu::always_inline]] void inc() noexcept {
     if (threadSafe) [[unlikely]]
       std::atomic_ref(word_).fetch_add(1, std::memory_order_relaxed);
     else
@@ -46,7 +47,7 @@ class ReferenceWord {
   }
 
   /// One reference fewer; true when that was the last and nothing keeps the object.
-  bool dec() noexcept {
+  [[gnu::always_inline]] bool dec() noexcept {
     U32 left;
     if (threadSafe) [[unlikely]]
       left = std::atomic_ref(word_).fetch_sub(1, std::memory_order_acq_rel) - 1;
