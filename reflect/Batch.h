@@ -41,9 +41,11 @@ void changed(Mox::GenericIfEntity& face, Mox::AttributeId id);
 template <class Key>
 void changed(Mox::GenericIfEntity& face, Mox::AttributeId id, Pending<Key>& pending, Key const& key,
              frame::TypeOf keyType) {
-  pending.last = key;
-  if (face.moxOnAttribute(id, &pending.count)) return;
-  face.onAttribute(id, faceOf(pending.last, keyType, true));
+  // What is told at once leaves alone what waits.
+  if (face.moxOnAttribute(id, &pending.count))
+    pending.last = key;
+  else
+    face.onAttribute(id, faceOf(key, keyType, true));
 }
 
 /// The one key that has changed; null where there was none, or several, which are told at once.

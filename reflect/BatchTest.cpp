@@ -209,6 +209,15 @@ TEST_F(BatchTest, WorkThatComesMeanwhileRunsBetweenToo) {
   EXPECT_EQ(run(), "267 3;268 5;later;275 4;");
 }
 
+TEST_F(BatchTest, AChangeInMidBatchIsToldAtOnceAndLosesNoKey) {
+  batched();
+  entity->bytesIs(3, 1);
+  entity->lanesIs(4, 1);
+  auto const work = enqueued([this] { entity->lanesIs(9, 1); });
+  EXPECT_EQ(run(), "267 3;275 9;275 4;");
+  EXPECT_EQ(run(), "");
+}
+
 TEST_F(BatchTest, AWatchersOwnChangeIsToldAtOnce) {
   batched();
   entity->levelIs(1);
