@@ -147,6 +147,18 @@ TEST_F(ConstructorTest, TakesEntitiesAsParameters) {
   EXPECT_EQ(made.read(258), "Entity('everyShape::Bush', 'p')");
 }
 
+TEST_F(ConstructorTest, ADerivedClassMakesOneOfItsOwn) {
+  auto const deriveds = everyShape::Derived::_fwkType()->genericIf_(nullptr, false);
+  auto const made =
+      deriveds->genericIfListConstructor(list({given(Mox::Name("d")), given(U16{5})}));
+  EXPECT_EQ(shown(made), "Entity('everyShape::Derived', 'd')");
+  EXPECT_EQ(Face(made).read(every::port), "5");
+  EXPECT_EQ(refusal([&] {
+              deriveds->genericIfListConstructor(list({nullptr, nullptr, nullptr}));
+            }),
+            "UnknownArg: too many arguments for 'Derived'");
+}
+
 TEST_F(ConstructorTest, AClassWithTheNameAloneHasNone) {
   auto const groves = everyShape::Grove::_fwkType()->genericIf_(nullptr, false);
   EXPECT_EQ(refusal([&] { groves->genericIfListConstructor(list()); }),

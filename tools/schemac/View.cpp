@@ -75,9 +75,11 @@ void addAccess(Type const& type, Scope& scope) {
   };
   scope.flag("hasCollections", hasAny("map refs owns"));
   scope.flag("hasHooks", hasAny("scalar counter ref own map refs owns"));
-  bool const takes = type.kind == Kind::value
-                         ? !scope.lists.at("fields").empty()
-                         : type.kind == Kind::entity && !scope.lists.at("ownParams").empty();
+  // A name alone is no reason; the parameter of a base is one, for the base's makes another class.
+  auto const takesMore = [](Argument const& argument) { return argument.name != "name"; };
+  bool const takes = type.kind == Kind::value ? !scope.lists.at("fields").empty()
+                                              : type.kind == Kind::entity &&
+                                                    std::ranges::any_of(type.arguments, takesMore);
   scope.flag("listConstructed", takes);
 }
 

@@ -10,6 +10,10 @@
 namespace everyShape {
 
 struct Derived::GenericIf_::MoxTable {
+  static constexpr reflect::Argument constructorTypes[] = {
+      {"name", Mox::Name::_fwkType},
+      {"port", Mox::Builtin<U16>::_fwkType},
+  };
   static constexpr reflect::Row rows[] = {
       {.id = 386, .name = "extra", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Derived::extra>, .write = reflect::write<&Derived::extraIs>},
@@ -67,6 +71,10 @@ Mox::GenericIf::AttributeIteratorConst Derived::GenericIf_::attributeIteratorKey
 }
 Mox::GenericIf::Ptr Derived::GenericIf_::clone() {
   return reflect::unwatched(new GenericIf_(obj(), isConst()));
+}
+Mox::GenericIf::Ptr Derived::GenericIf_::genericIfListConstructor(PtrConst const& list) const {
+  reflect::Arguments const given(MoxTable::constructorTypes, list, "Derived");
+  return reflect::owningFaceOf(reflect::make<Derived, Mox::Name, U16>(given.held()));
 }
 
 void Derived::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {

@@ -31,6 +31,7 @@ class Derived::GenericIf_ : public Every::GenericIf_ {
       PtrConst const& key) const override;
   using GenericIf::clone;
   Ptr clone() override;
+  Ptr genericIfListConstructor(PtrConst const& list) const override;
   void handleNotification(Mox::ActivityConfig* activity) override;
   void notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) override;
   void moxDoZombieReactors(bool zombie) override;
