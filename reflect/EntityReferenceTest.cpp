@@ -107,6 +107,12 @@ TEST_F(EntityReferenceTest, TwoOfOneNameAreAmbiguous) {
             "Range: there is more than one everyShape::Leaf 'e0/c'");
 }
 
+TEST_F(EntityReferenceTest, OneThatIsEnteredTwiceIsStillOne) {
+  enter(entity);
+  enter(entity, "again");
+  EXPECT_EQ(read(Derived::_fwkType(), shown(face.ptr())), entity.ptr());
+}
+
 TEST_F(EntityReferenceTest, TheEntitysOwnNameCountsAndNotTheDirectorys) {
   enter(entity, "elsewhere");
   EXPECT_EQ(read(Derived::_fwkType(), "Entity('everyShape::Derived', 'e0')"), entity.ptr());

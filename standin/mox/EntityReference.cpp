@@ -6,6 +6,7 @@
 #include "Mox/MoxType.h"
 #include "Mox/Strep.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace Mox {
@@ -55,8 +56,9 @@ void searchChildren(Entity& entity, std::string_view path, Wanted const& wanted,
 void search(Ptr<Entity> const& entity, std::string_view path, Wanted const& wanted, Found& found) {
   std::string_view rest;
   if (!leadsTo(entity->name(), path, rest)) return;
-  if (rest.empty() && entity->fwkType()->fullTypeName() == Name(wanted.type))
-    found.push_back(entity);
+  bool const fits = rest.empty() && entity->fwkType()->fullTypeName() == Name(wanted.type);
+  // The root directory may have one entity under several names.
+  if (fits && std::ranges::find(found, entity) == found.end()) found.push_back(entity);
   if (!rest.empty()) searchChildren(*entity, rest.substr(1), wanted, found);
 }
 
