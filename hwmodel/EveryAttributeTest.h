@@ -1,9 +1,10 @@
 // The language of the tests over every attribute: a hand-written row for each, and what must hold
-// of an attribute of that shape.
+// of an attribute of that shape, by its accessors and by its number.
 #pragma once
 
 #include "Mox/Mox.h"
 #include "Mox/MoxType.h"
+#include "hwmodel/ByNumberTest.h"
 
 #include <cstring>
 #include <functional>
@@ -35,10 +36,10 @@ class Noting : public E::NotifieeConst {
   std::string heard() { return std::exchange(heard_, ""); }
 
  protected:
-  void note(char const* attribute) { heard_ += std::string(attribute) + ";"; }
+  void note(char const* attribute) { heard_.append(attribute).append(";"); }
   template <class Key>
   void note(char const* attribute, Key const& key) {
-    heard_ += std::string(attribute) + " " + text(key) + ";";
+    heard_.append(attribute).append(" ").append(text(key)).append(";");
   }
 
  private:
@@ -100,6 +101,8 @@ struct Row {
   std::ptrdiff_t slot = 0;
   std::ptrdiff_t slots = 0;
   std::function<void(Subject<E>&)> holds;
+  /// The same by number, on another fresh entity.
+  std::function<void(E&, ByNumber const&)> holdsByNumber;
 };
 
 template <class V>
@@ -108,9 +111,12 @@ using Given = std::type_identity_t<V>;
 /// What is fixed at construction.
 template <class E, class V>
 Row<E> param(Mox::AttributeId id, char const* name, V (E::*read)() const, Given<V> value) {
-  return {id, name, 0, 0, [=](Subject<E>& on) {
-            on.expectRead([&] { return (on.entity.ptr()->*read)(); }, value);
-          }};
+  return {id,
+          name,
+          0,
+          0,
+          [=](Subject<E>& on) { on.expectRead([&] { return (on.entity.ptr()->*read)(); }, value); },
+          [=](E&, ByNumber const& by) { by.readOnly(V(value)); }};
 }
 
 /// A scalar or a reference: starts at `first`.
@@ -118,7 +124,11 @@ template <class E, class V, class Pass>
 Row<E> scalar(Mox::AttributeId id, char const* name, V (E::*read)() const, void (E::*is)(Pass),
               void (E::NotifieeConst::*hook)(), Given<V> first, Given<V> other) {
   std::string const note = std::string(name) + ";";
-  return {id, name, slotOf(hook), 1, [=](Subject<E>& on) {
+  return {id,
+          name,
+          slotOf(hook),
+          1,
+          [=](Subject<E>& on) {
             E* const entity = on.entity.ptr();
             auto const set = [=](V const& value) { return [=] { (entity->*is)(value); }; };
             auto const get = [=] { return (entity->*read)(); };
@@ -129,6 +139,10 @@ Row<E> scalar(Mox::AttributeId id, char const* name, V (E::*read)() const, void 
             on.expect(0, "", set(other));
             on.expect(1, note, set(first));
             on.expectRead(get, first);
+          },
+          [=](E& on, ByNumber const& by) {
+            by.scalar([&] { return (on.*read)(); }, [&](V const& value) { (on.*is)(value); },
+                      V(first), V(other));
           }};
 }
 
@@ -163,7 +177,11 @@ Row<E> map(Mox::AttributeId id, char const* name, V (E::*read)(K) const, void (E
            void (E::NotifieeConst::*hook)(std::remove_cvref_t<K>), Given<std::remove_cvref_t<K>> a,
            Given<std::remove_cvref_t<K>> b, Given<V> value, Given<V> other) {
   auto const note = [=](auto const& key) { return std::string(name) + " " + text(key) + ";"; };
-  return {id, name, slotOf(hook), 3, [=](Subject<E>& on) {
+  return {id,
+          name,
+          slotOf(hook),
+          3,
+          [=](Subject<E>& on) {
             E* const entity = on.entity.ptr();
             auto const get = [=] { return (entity->*read)(a); };
             EXPECT_EQ((entity->*count)(), 0u);
@@ -183,6 +201,16 @@ Row<E> map(Mox::AttributeId id, char const* name, V (E::*read)(K) const, void (E
             on.expect(0, "", [=] { EXPECT_TRUE((entity->*del)(b) == V()); });
             on.expect(1, note(a), [=] { (entity->*delAll)(); });
             EXPECT_EQ((entity->*count)(), 0u);
+          },
+          [=](E& on, ByNumber const& by) {
+            (on.*is)(a, V(value));
+            by.write(by.keyed(b), by.given(V(other)));
+            EXPECT_TRUE((on.*read)(b) == V(other));
+            (on.*del)(a);
+            by.hears({by.keyed(a), by.keyed(b), by.keyed(a)});
+            by.refusesValueOfAnotherType(by.keyed(a));
+            by.collection(b, V(other));
+            EXPECT_EQ((on.*count)(), 0u);
           }};
 }
 
@@ -195,7 +223,11 @@ Row<E> refs(Mox::AttributeId id, char const* name, Mox::Ptr<T> (E::*read)(K) con
             Given<std::remove_cvref_t<K>> key, Given<Mox::Ptr<T>> target, Given<Mox::Ptr<T>> twin,
             std::string complaint) {
   std::string const note = std::string(name) + " " + text(key) + ";";
-  return {id, name, slotOf(hook), 3, [=](Subject<E>& on) {
+  return {id,
+          name,
+          slotOf(hook),
+          3,
+          [=](Subject<E>& on) {
             E* const entity = on.entity.ptr();
             auto const get = [=] { return (entity->*read)(key); };
             on.expectRead(get, nullptr);
@@ -220,6 +252,16 @@ Row<E> refs(Mox::AttributeId id, char const* name, Mox::Ptr<T> (E::*read)(K) con
             on.expect(0, "", [=] { EXPECT_TRUE((entity->*make)(target)); });
             on.expect(1, note, [=] { (entity->*delAll)(); });
             EXPECT_EQ((entity->*count)(), 0u);
+          },
+          [=](E& on, ByNumber const& by) {
+            by.write(nullptr, by.given(target));
+            EXPECT_EQ((on.*read)(key), target);
+            (on.*is)(twin);
+            by.hears({by.keyed(key), by.keyed(key)});
+            by.refusesValueOfAnotherType(nullptr);
+            by.refusesIndex({GenericIf::opWrite});
+            by.collection(key, twin);
+            EXPECT_EQ((on.*count)(), 0u);
           }};
 }
 
@@ -231,7 +273,11 @@ Row<E> own(Mox::AttributeId id, char const* name, Mox::Ptr<T> (E::*read)() const
            Given<std::function<Mox::Ptr<T>(E&, Mox::Name)>> make, Mox::Ptr<T> (E::*del)(),
            void (E::NotifieeConst::*hook)(), U32 stepsWhenKept = 1) {
   std::string const note = std::string(name) + ";";
-  return {id, name, slotOf(hook), 1, [=](Subject<E>& on) {
+  return {id,
+          name,
+          slotOf(hook),
+          1,
+          [=](Subject<E>& on) {
             E* const entity = on.entity.ptr();
             auto const get = [=] { return (entity->*read)(); };
             Mox::Ptr<T> first;
@@ -251,6 +297,13 @@ Row<E> own(Mox::AttributeId id, char const* name, Mox::Ptr<T> (E::*read)() const
             on.expect(1, note, [&] { EXPECT_EQ((entity->*del)(), second); });
             EXPECT_FALSE(second->parent());
             on.expectRead(get, nullptr);
+          },
+          [=](E& on, ByNumber const& by) {
+            Mox::Ptr<T> const child = is(on, "a");
+            by.hears({nullptr});
+            by.readOnly(child);
+            (on.*del)();
+            by.readOnly(Mox::Ptr<T>());
           }};
 }
 
@@ -263,7 +316,11 @@ Row<E> owns(Mox::AttributeId id, char const* name, Mox::Ptr<T> (E::*read)(K) con
             U32 (E::*count)() const, void (E::NotifieeConst::*hook)(std::remove_cvref_t<K>),
             Given<std::remove_cvref_t<K>> a, Given<std::remove_cvref_t<K>> b) {
   auto const note = [=](auto const& key) { return std::string(name) + " " + text(key) + ";"; };
-  return {id, name, slotOf(hook), 3, [=](Subject<E>& on) {
+  return {id,
+          name,
+          slotOf(hook),
+          3,
+          [=](Subject<E>& on) {
             E* const entity = on.entity.ptr();
             auto const get = [=] { return (entity->*read)(a); };
             Mox::Ptr<T> child;
@@ -281,6 +338,14 @@ Row<E> owns(Mox::AttributeId id, char const* name, Mox::Ptr<T> (E::*read)(K) con
             on.expect(1, note(a), [&] { (entity->*delAll)(); });
             EXPECT_FALSE(child->parent());
             EXPECT_EQ((entity->*count)(), 0u);
+          },
+          [=](E& on, ByNumber const& by) {
+            Mox::Ptr<T> const child = is(on, a);
+            by.hears({by.keyed(a)});
+            by.refusesAll({GenericIf::opWrite});
+            by.collection(a, child);
+            EXPECT_FALSE(child->parent());
+            EXPECT_EQ((on.*count)(), 0u);
           }};
 }
 
@@ -314,6 +379,8 @@ void everyAttribute(Make const& make, std::vector<Row<typename Listener::Entity>
     EXPECT_TRUE(subject.entity->moxHasAttrLogInterface());
     EXPECT_EQ(subject.entity->fwkType(), E::_fwkType());
     row.holds(subject);
+    Mox::Ptr<E> const another = make();
+    row.holdsByNumber(*another, ByNumber(another, row.id, row.name));
     if (row.slots == 0) continue;
     EXPECT_TRUE(slot == 0 || row.slot == slot) << "its hook isn't behind the one before";
     slot = row.slot + row.slots;
