@@ -1,6 +1,8 @@
 // Arguments of operations and constructors, from interfaces to what they hold.
 #include "reflect/Arguments.h"
 
+#include <utility>
+
 namespace reflect {
 
 namespace {
@@ -44,13 +46,17 @@ void assignFields(std::span<Row const> rows, GenericIf::PtrConst const& list, vo
                   char const* type) {
   List::Entries entries;
   List::entriesOf(list, entries);
+  std::vector<std::pair<Row const*, void const*>> assigned;
+  auto entry = entries.begin();
   for (Row const& row : rows) {
-    if (entries.empty()) return;
+    if (entry == entries.end()) break;
     if (!row.write) continue;
-    auto const entry = entries.deq();
-    row.write(record, GenericIf::requireHeld(entry->value(), row.type(), row.name));
+    assigned.emplace_back(&row, GenericIf::requireHeld((*entry).value(), row.type(), row.name));
+    ++entry;
   }
-  if (!entries.empty()) GenericIf::throwUnknownArgException(type);
+  if (entry != entries.end()) GenericIf::throwUnknownArgException(type);
+  // A bound is checked last of all.
+  for (auto const& [row, value] : assigned) row->write(record, value);
 }
 
 }  // namespace reflect

@@ -181,6 +181,13 @@ TEST(ValueTest, RefusesAWrongTypeByTheFieldsName) {
   EXPECT_EQ(refusedList<Level>(list({given(U16{1})})), "Type: wrong type for 'value'");
 }
 
+TEST(ValueTest, TypesComeAheadOfEntriesLeftOverAndThoseAheadOfTheBound) {
+  EXPECT_EQ(refusedList<Level>(list({given(U16{1}), given(U8{1})})),
+            "Type: wrong type for 'value'");
+  EXPECT_EQ(refusedList<Level>(list({given(U8{10}), given(U8{1})})),
+            "UnknownArg: too many arguments for 'Level'");
+}
+
 TEST(ValueTest, TheBoundIsCheckedInAListToo) {
   EXPECT_EQ(refusedList<Level>(list({given(U8{10})})),
             "Range: Level::value < 0 or > 9 not allowed");

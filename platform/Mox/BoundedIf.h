@@ -22,7 +22,7 @@ class BoundedIf : public GenericIf {
     if (index) throwBadIndexAttrException("value");
     if (op.opId == opRead) return primitiveIf(value_.value(), isConst());
     if (op.opId != opWrite) throwOpNotSupportedException("value", op.opId, false);
-    value_ = of(value);
+    value_ = T(numberOf(value));
     return nullptr;
   }
   Ptr clone() override { return new BoundedIf(value_, isConst()); }
@@ -30,17 +30,17 @@ class BoundedIf : public GenericIf {
     List_::Entries entries;
     List_::entriesOf(list, entries);
     auto const first = entries.deq();
+    Storage const number = first ? numberOf(first->value()) : Storage();
     if (!entries.empty()) throwUnknownArgException(type()->moxName().stringValue());
-    return new BoundedIf(first ? of(first->value()) : T(), false);
+    return new BoundedIf(T(number), false);
   }
   String8 strRep() const override { return valueToStrep(value_); }
 
  private:
   using Storage = typename T::Storage;
 
-  static T of(PtrConst const& number) {
-    return T(
-        *static_cast<Storage const*>(requireHeld(number, Builtin<Storage>::_fwkType(), "value")));
+  static Storage numberOf(PtrConst const& given) {
+    return *static_cast<Storage const*>(requireHeld(given, Builtin<Storage>::_fwkType(), "value"));
   }
 
   T value_;

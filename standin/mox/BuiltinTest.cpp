@@ -289,7 +289,11 @@ TYPED_TEST(BoundedIfTest, AListIsRefusedByTheCommonRules) {
                                              make(list({primitiveIf(S8{1}, false)})));
   this->template refuses<Mox::TypeException>("wrong type for 'value'", make(list({nullptr})));
   this->template refuses<Mox::UnknownArgException>("too many arguments for '" + this->name() + "'",
-                                                   make(list({one, one})));
+                                                   make(list({one, this->number(this->most + 1)})));
+  this->template refuses<Mox::TypeException>("wrong type for 'value'",
+                                             make(list({primitiveIf(S8{1}, false), one})));
+  this->template refuses<Mox::UnknownArgException>("too many arguments for '" + this->name() + "'",
+                                                   make(list({this->number(this->most + 1), one})));
   this->template refuses<Mox::RangeException>(Bound<TypeParam>::words,
                                               make(list({this->number(this->most + 1)})));
 }
