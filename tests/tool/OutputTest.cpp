@@ -20,11 +20,13 @@ INSTANTIATE_TEST_SUITE_P(Commands, FullDeviceTest,
                          testing::Values("demo", "report summary", "report detail", "report sram",
                                          "report sram --json", "report tables", "bringup --down",
                                          "lint --json", "profile", "types", "types --json",
-                                         "--help", "--version"));
+                                         "get /slice0", "tree", "set /slice0/ready False", "--help",
+                                         "--version"));
 
 TEST(OutputTest, NothingGoesToStandardErrorWhenAllIsWell) {
-  for (char const* command : {"demo", "report summary", "report detail --json", "report sram",
-                              "bringup --down", "lint", "profile", "types --json"})
+  for (char const* command :
+       {"demo", "report summary", "report detail --json", "report sram", "bringup --down", "lint",
+        "profile", "types --json", "get", "tree --depth 9"})
     EXPECT_EQ(kestrel(command).err, "") << command;
 }
 

@@ -5,6 +5,7 @@
 #include "standin/xdk/CallLog.h"
 #include "tools/kestrel/Chip.h"
 
+#include <functional>
 #include <iosfwd>
 #include <set>
 
@@ -25,6 +26,9 @@ class EntryWatch : public Kestrel::ChipStatus::Notifiee {
   xdksim::CallLog log_;
   std::set<U32> shown_;
 };
+
+/// Writes the call log of what `run` does with the chip to `out`, each line flushed as it comes.
+void printCalls(Chip& chip, std::ostream& out, std::function<void()> const& run);
 
 /// Brings the chip up and writes its call log to `out`, each line flushed as it comes.
 void printBringUp(Chip& chip, std::ostream& out);

@@ -36,7 +36,7 @@ XpLib::Config::LpmTreadCfg::Ptr treadsOf(xdksim::LpmTreadCfg const& plan) {
 
 Chip::Chip(xdksim::Profile const& profile, std::string const& origin, SdkRequest const& request)
     : sdk_(profile),
-      status_(Kestrel::chipStatusFactory("chip")),
+      status_(Kestrel::chipStatusFactory("chip0")),
       deviceId_(deviceIdOf(profile, origin)),
       ldePipeMode_(static_cast<XpXdk::XpDeviceLdePipeMode>(profile.ldePipeMode)),
       coldStartNeeded_(profile.coldStartNeeded),
@@ -56,7 +56,7 @@ void Chip::takeDown() {
 }
 
 Kestrel::TableCliHelper::Ptr Chip::reports() const {
-  XpSystem::ChipStatus::Ptr const status = new XpSystem::ChipStatus("chip");
+  XpSystem::ChipStatus::Ptr const status = new XpSystem::ChipStatus("chip0Tables");
   Kestrel::tableContextFrom(*status, *status_);
   return Kestrel::tableCliHelperFactory(status);
 }

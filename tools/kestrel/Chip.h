@@ -30,6 +30,8 @@ class Chip {
   xdksim::Sim& sdk() { return sdk_; }
   /// Where the bring-up publishes the tables.
   Kestrel::ChipStatus::Ptr const& status() const { return status_; }
+  /// Who has brought the tables up; null ahead of that.
+  Kestrel::TableManSm::Ptr const& tables() const { return tables_; }
 
   /// Creates all tables.  The library ends the process where it can't.
   void bringUp();

@@ -9,6 +9,7 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace kestrel {
 
@@ -32,6 +33,13 @@ struct Request {
   bool down = false;               ///< take the chip down again
   std::optional<std::string> svg;  ///< files of pictures
   std::optional<std::string> html;
+
+  std::string path = "/";          ///< into the model
+  std::string value;               ///< a text to be set
+  std::string operation;           ///< to be called
+  std::vector<std::string> words;  ///< its arguments
+  bool log = false;                ///< show the calls of the SDK
+  std::optional<U32> depth;        ///< levels of a tree
 };
 
 ExitStatus demo(Request const& request, std::ostream& out);
@@ -50,5 +58,14 @@ ExitStatus reportDetail(Request const& request, std::ostream& out);
 /// Writes the pictures that are asked for, or else the text.
 ExitStatus reportSram(Request const& request, std::ostream& out);
 ExitStatus reportTables(Request const& request, std::ostream& out);
+
+// Commands on paths into the model.  All throw `UsageFault` also for a path that leads nowhere, and
+// for what the library refuses; nothing has changed then.
+ExitStatus get(Request const& request, std::ostream& out);
+/// Prints, in one line, what stands there afterwards.
+ExitStatus set(Request const& request, std::ostream& out);
+ExitStatus tree(Request const& request, std::ostream& out);
+/// Prints the result, behind the calls of the SDK where these are asked for.
+ExitStatus call(Request const& request, std::ostream& out);
 
 }  // namespace kestrel

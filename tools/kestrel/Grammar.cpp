@@ -174,6 +174,44 @@ void addLint(CLI::App& app, Request& request) {
   addJson(command, request);
 }
 
+void addPath(CLI::App& command, Request& request, char const* help, bool required) {
+  command.add_option("PATH", request.path, help)->required(required)->type_name("");
+}
+
+void addReading(CLI::App& app, Request& request) {
+  CLI::App& got =
+      addCommand(app, "get", "Print what stands at a path into the model", request, get);
+  addPath(got, request, "Such as /slice0/chipStatus/chip0/portStatus/12/portMode; / for the roots",
+          false);
+  addJson(got, request);
+  addChip(got, request);
+
+  CLI::App& shown = addCommand(app, "tree", "Print the entities from a path on", request, tree);
+  addPath(shown, request, "Where the tree begins; without it, at the roots", false);
+  addNumber(shown, "--depth", "N", "depth", "Levels of entities below the first; 1 unless given",
+            request.depth);
+  addChip(shown, request);
+}
+
+void addChanging(CLI::App& app, Request& request) {
+  CLI::App& changed =
+      addCommand(app, "set", "Set what stands at a path, and print its new text", request, set);
+  addPath(changed, request, "An attribute, an element or a field", true);
+  changed.add_option("VALUE", request.value, "Its text; strings and names need no quotes")
+      ->required()
+      ->type_name("");
+  addChip(changed, request);
+
+  CLI::App& called =
+      addCommand(app, "call", "Call an operation and print its result", request, call);
+  addPath(called, request, "The object", true);
+  called.add_option("OPERATION", request.operation, "Its operation")->required()->type_name("");
+  called.add_option("ARGS", request.words, "The operation's arguments, as texts")->type_name("");
+  called.add_flag("--log", request.log, "Show each call of the SDK, and each table, ahead of it");
+  addJson(called, request);
+  addChip(called, request);
+}
+
 }  // namespace
 
 void addCommands(CLI::App& app, Request& request) {
@@ -185,6 +223,8 @@ void addCommands(CLI::App& app, Request& request) {
   addBringUp(app, request);
   addLint(app, request);
   addTrace(app, request);
+  addReading(app, request);
+  addChanging(app, request);
   addCommand(app, "profile", "Print the built-in profile", request, profile);
   addJson(addCommand(app, "types", "Print the types of the library's modules, by their descriptors",
                      request, types),

@@ -1,0 +1,79 @@
+// The commands on paths into the model: nothing here knows its types.
+#include "Mox/Builtin.h"
+#include "tools/kestrel/BringUp.h"
+#include "tools/kestrel/Commands.h"
+#include "tools/kestrel/model/Call.h"
+#include "tools/kestrel/model/FaceJson.h"
+#include "tools/kestrel/model/ModelSession.h"
+#include "tools/kestrel/model/PlainText.h"
+#include "tools/kestrel/model/Show.h"
+
+#include <ostream>
+
+namespace kestrel {
+
+ModelSession::ModelSession(Request const& request)
+    : chip_(chipFor(request)), insight_(request.insight) {
+  chip_.bringUp();
+  model_.emplace(chip_);
+  paths_.emplace(model_->roots());
+}
+
+namespace {
+
+void printJson(Json const& json, std::ostream& out) { out << json.dump(1) << '\n'; }
+
+/// A text result stands as it is, as reports do.
+void printResult(GenericIf& result, bool json, std::ostream& out) {
+  if (json)
+    printJson(jsonOf(result), out);
+  else if (isText(*result.type()))
+    out << plainText(result);
+  else
+    print(result, out);
+}
+
+}  // namespace
+
+ExitStatus get(Request const& request, std::ostream& out) {
+  ModelSession const session(request);
+  Place const place = session.paths().requireAt(request.path);
+  askedAt(place.path, [&] {
+    if (request.json)
+      printJson(jsonAt(place, session.roots()), out);
+    else
+      print(place, session.roots(), out);
+  });
+  return success;
+}
+
+ExitStatus set(Request const& request, std::ostream& out) {
+  ModelSession const session(request);
+  Place const place = session.paths().at(request.path);
+  set(session.paths(), place, request.value);
+  out << lineAt(session.paths().requireAt(place.path)) << '\n';
+  return success;
+}
+
+ExitStatus tree(Request const& request, std::ostream& out) {
+  ModelSession const session(request);
+  Place const place = session.paths().requireAt(request.path);
+  printTree(place, session.roots(), request.depth.value_or(1), out);
+  return success;
+}
+
+ExitStatus call(Request const& request, std::ostream& out) {
+  ModelSession session(request);
+  Place const place = session.paths().requireAt(request.path);
+  MoxAttr const& operation = operationAt(place, request.operation);
+  GenericIf::Ptr result;
+  auto const perform = [&] { result = call(session.paths(), place, operation, request.words); };
+  if (request.log)
+    printCalls(session.chip(), out, perform);
+  else
+    perform();
+  if (result) printResult(*result, request.json, out);
+  return success;
+}
+
+}  // namespace kestrel
