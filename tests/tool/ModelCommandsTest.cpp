@@ -20,7 +20,7 @@ TEST(ModelCommandsTest, AComplaintIsOneLineAndNoResult) {
   for (char const* command :
        {"get /nowhere", "get x", "get /slice0/%", "set /slice0/ready maybe", "set /slice0 None",
         "tree /slice0/ready", "call /slice0 x", "call /tableManSm doUpdateTableStatus",
-        "get \"/a\nb\"", "get /slice0 --profile /nowhere"}) {
+        "get \"/a\nb\"", "get /slice0 --profile /nowhere", "watch /", "watch /slice0 /x"}) {
     Outcome const outcome = kestrel(command);
     EXPECT_EQ(outcome.status, 2) << command;
     EXPECT_EQ(outcome.out, "") << command;

@@ -212,6 +212,21 @@ void addChanging(CLI::App& app, Request& request) {
   addChip(called, request);
 }
 
+void addWatch(CLI::App& app, Request& request) {
+  CLI::App& command = addCommand(
+      app, "watch", "Let things happen in the hardware, and print each change at some paths",
+      request, watch);
+  command.add_option("PATH", request.words, "Entities, attributes, elements or fields")
+      ->required()
+      ->type_name("");
+  addNumber(command, "--seed", "N", "seed", "Another life than that of seed 1", request.seed);
+  addNumber(command, "--steps", "N", "number of steps", "So much happens; 100 unless given",
+            request.steps);
+  command.add_flag("--batch", request.batch,
+                   "Tell of each step in a batch: of several elements of a collection at once");
+  addChip(command, request);
+}
+
 }  // namespace
 
 void addCommands(CLI::App& app, Request& request) {
@@ -225,6 +240,7 @@ void addCommands(CLI::App& app, Request& request) {
   addTrace(app, request);
   addReading(app, request);
   addChanging(app, request);
+  addWatch(app, request);
   addCommand(app, "profile", "Print the built-in profile", request, profile);
   addJson(addCommand(app, "types", "Print the types of the library's modules, by their descriptors",
                      request, types),

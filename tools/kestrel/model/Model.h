@@ -5,6 +5,7 @@
 #include "tools/kestrel/model/Roots.h"
 
 #include <memory>
+#include <random>
 
 namespace kestrel {
 
@@ -21,6 +22,9 @@ class Model {
   Model& operator=(Model const&) = delete;
 
   Roots const& roots() const { return roots_; }
+
+  /// Lets one thing happen in the hardware, such as a link that goes down.
+  void live(std::mt19937& random);
 
  private:
   std::unique_ptr<ModelParts> parts_;

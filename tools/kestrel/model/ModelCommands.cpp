@@ -7,6 +7,7 @@
 #include "tools/kestrel/model/ModelSession.h"
 #include "tools/kestrel/model/PlainText.h"
 #include "tools/kestrel/model/Show.h"
+#include "tools/kestrel/model/Watch.h"
 
 #include <ostream>
 
@@ -73,6 +74,19 @@ ExitStatus call(Request const& request, std::ostream& out) {
   else
     perform();
   if (result) printResult(*result, request.json, out);
+  return success;
+}
+
+ExitStatus watch(Request const& request, std::ostream& out) {
+  constexpr U32 usualSteps = 100;
+  ModelSession session(request);
+  Watch watch(session.paths(), request.batch, out);
+  for (std::string const& path : request.words) watch.add(path);
+  std::mt19937 random(request.seed.value_or(1));
+  for (U32 step = request.steps.value_or(usualSteps); step > 0; --step) {
+    session.model().live(random);
+    watch.settle();
+  }
   return success;
 }
 

@@ -131,7 +131,7 @@ Kestrel::PortHwStatus::Ptr ModelParts::layPort(U8 lane) const {
   port->intfNameIs(interfaceName(lane));
   port->phyStatusIs(phy(lane));
   port->portModeIs(modeOf(lane));
-  port->portValidIs(true);
+  port->portValidIs(phy(lane)->linkUp());
   return port;
 }
 

@@ -45,6 +45,7 @@ struct ModelParts {
   Kestrel::ChipStatus::Ptr chip;
   Kestrel::TableManSm::Ptr tables;
   Kestrel::TableCliHelper::Ptr reports;
+  U32 now = 0;  ///< what has happened so far, each in a second of its own
 };
 
 }  // namespace kestrel
