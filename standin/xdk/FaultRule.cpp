@@ -55,14 +55,14 @@ void readOutcome(FaultRule& rule, std::string_view word) {
   }
   std::errc fault = readNumber(word, rule.status);
   if (fault == std::errc::result_out_of_range)
-    throw Fault(quoted(word) + " is no status, " + rangeOf(std::numeric_limits<S32>::min()));
-  if (fault != std::errc()) throw Fault("expected a status, null or kill, not " + quoted(word));
+    throw Fault(inQuotes(word) + " is no status, " + rangeOf(std::numeric_limits<S32>::min()));
+  if (fault != std::errc()) throw Fault("expected a status, null or kill, not " + inQuotes(word));
 }
 
 U32 countOf(std::string_view word) {
   U32 number = 0;
   if (readNumber(word, number) != std::errc() || number == 0)
-    throw Fault(quoted(word) + " is no count of calls, " + rangeOf(U32{1}));
+    throw Fault(inQuotes(word) + " is no count of calls, " + rangeOf(U32{1}));
   return number;
 }
 
@@ -81,20 +81,21 @@ void readWhen(FaultRule& rule, std::string_view word, std::string_view behind) {
 FaultRule faultRule(std::string_view text) {
   Words words = wordsOf(text);
   if (words.empty()) throw Fault("a fault has a key and an outcome: \"xpFdbMgr::addDevice 5\"");
-  if (words.size() == 1) throw Fault("expected a status, null or kill behind " + quoted(words[0]));
+  if (words.size() == 1)
+    throw Fault("expected a status, null or kill behind " + inQuotes(words[0]));
   FaultRule rule;
   rule.text = joined(words);
   readOutcome(rule, words[1]);
   rule.key = rule.outcome == null ? managerKey(words[0]) : operationKey(words[0]);
   if (words.size() == 2) return rule;
   if (words[2] != "at" && words[2] != "every" && words[2] != "after")
-    throw Fault("expected at, every or after behind " + quoted(words[1]) + ", not " +
-                quoted(words[2]));
+    throw Fault("expected at, every or after behind " + inQuotes(words[1]) + ", not " +
+                inQuotes(words[2]));
   if (words.size() == 3)
     throw Fault(std::string(words[2] == "after" ? "expected a call" : "expected a count of calls") +
-                " behind " + quoted(words[2]));
+                " behind " + inQuotes(words[2]));
   readWhen(rule, words[2], words[3]);
-  if (words.size() > 4) throw Fault("nothing may follow " + quoted(words[3]));
+  if (words.size() > 4) throw Fault("nothing may follow " + inQuotes(words[3]));
   return rule;
 }
 

@@ -43,7 +43,7 @@ Json parseJson(std::string_view text, std::string const& file);
 /// The path with one more step, in the form of a JSON pointer.
 std::string pathTo(std::string const& path, std::string_view step);
 
-inline std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
+inline std::string inQuotes(std::string_view text) { return '"' + std::string(text) + '"'; }
 
 /// Bytes that aren't printable ASCII as "\xNN", so that the text stays one line, and "..." for what
 /// goes past `limit` bytes.

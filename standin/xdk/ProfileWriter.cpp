@@ -23,7 +23,7 @@ std::string joined(std::vector<std::string> const& items, std::string const& bet
 }
 
 std::string member(std::string const& name, std::string const& value) {
-  return quoted(name) + ": " + value;
+  return inQuotes(name) + ": " + value;
 }
 
 template <class Map, class Text>
@@ -113,7 +113,7 @@ std::string contextsText(Contexts const& contexts) {
 std::string tableText(Table const& table) {
   char const* name = tableTypeName(table.type);
   return '{' + member("copyNum", std::to_string(table.copyNum)) + ", " +
-         member("type", name ? quoted(name) : std::to_string(table.type)) + ", " +
+         member("type", name ? inQuotes(name) : std::to_string(table.type)) + ", " +
          member("contexts", contextsText(table.contexts)) + '}';
 }
 
@@ -138,7 +138,7 @@ std::string statusText(Profile const& profile) {
     lines.push_back("\n    " + member(key, statuses.size() == 1 ? std::to_string(statuses[0])
                                                                 : list(statuses)));
   for (std::string const& key : profile.nullManagers)
-    lines.push_back("\n    " + member(key, quoted("null")));
+    lines.push_back("\n    " + member(key, inQuotes("null")));
   return '{' + joined(lines, ",") + (lines.empty() ? "}" : "\n  }");
 }
 

@@ -20,7 +20,7 @@ U32 indexOf(Manager const& manager, std::string_view digits) {
   // One spelling for one index: two rules of a profile don't mean the same unseen.
   bool isNumber = error == std::errc() && std::to_string(index) == digits;
   if (!isNumber || index < manager.firstIndex || index > manager.lastIndex)
-    throw Fault(std::string(manager.name) + " has no index " + quoted(digits));
+    throw Fault(std::string(manager.name) + " has no index " + inQuotes(digits));
   return index;
 }
 
@@ -30,9 +30,9 @@ RuleKey classKey(std::string_view text) {
   auto name = text.substr(0, bracket);
   RuleKey key;
   key.manager = managerOf(name);
-  if (!key.manager) throw Fault("no manager class " + quoted(name));
+  if (!key.manager) throw Fault("no manager class " + inQuotes(name));
   if (bracket == std::string_view::npos) return key;
-  if (text.back() != ']') throw Fault("expected \"]\" at the end of " + quoted(text));
+  if (text.back() != ']') throw Fault("expected \"]\" at the end of " + inQuotes(text));
   key.index = indexOf(*key.manager, text.substr(bracket + 1, text.size() - bracket - 2));
   return key;
 }
@@ -51,17 +51,17 @@ RuleKey operationKey(std::string_view text) {
   auto colons = text.find("::");
   RuleKey key = classKey(text.substr(0, colons));
   if (colons == std::string_view::npos)
-    throw Fault("no operation named behind " + quoted(text) + ", as in \"" + std::string(text) +
+    throw Fault("no operation named behind " + inQuotes(text) + ", as in \"" + std::string(text) +
                 "::" + operationOf(key.manager->calls[0]).name + '"');
   key.operation = text.substr(colons + 2);
   if (!key.manager->has(key.operation))
-    throw Fault(std::string(key.manager->name) + " has no operation " + quoted(key.operation));
+    throw Fault(std::string(key.manager->name) + " has no operation " + inQuotes(key.operation));
   return key;
 }
 
 RuleKey managerKey(std::string_view text) {
   if (text.find("::") != std::string_view::npos)
-    throw Fault("an operation can't be null, only a manager: " + quoted(text));
+    throw Fault("an operation can't be null, only a manager: " + inQuotes(text));
   RuleKey key = classKey(text);
   if (key.manager->isSingleton())
     throw Fault(std::string(key.manager->name) + " is a singleton, and never null");

@@ -47,23 +47,24 @@ void complain(std::string const& complaint) {
 /// What is wrong, where the parser's own words aren't the best.
 std::string faultOf(CLI::App const& app, CLI::ParseError const& fault) {
   CLI::App const& named = namedCommand(app);
-  std::string const command = quoted(fullName(named));
+  std::string const command = inQuotes(fullName(named));
   std::vector<std::string> const unknown = app.remaining(true);
   bool const needsCommand = dynamic_cast<CLI::RequiredError const*>(&fault) != nullptr &&
                             named.get_require_subcommand_min() > 0;
   if (needsCommand && unknown.empty()) return command + " needs a command";
-  if (needsCommand) return command + " has no command " + quoted(unknown.front());
+  if (needsCommand) return command + " has no command " + inQuotes(unknown.front());
   if (!unknown.empty()) {
     std::string const& word = unknown.front();
     bool const misplaced = named.get_option_no_throw(word) != nullptr;
-    return misplaced ? quoted(word) + " must stand behind " + command
-                     : command + " takes no " + quoted(word);
+    return misplaced ? inQuotes(word) + " must stand behind " + command
+                     : command + " takes no " + inQuotes(word);
   }
   return fault.what();
 }
 
 ExitStatus refused(CLI::App const& app, CLI::ParseError const& fault) {
-  complain(faultOf(app, fault) + " (see " + quoted(fullName(namedCommand(app)) + " --help") + ")");
+  complain(faultOf(app, fault) + " (see " + inQuotes(fullName(namedCommand(app)) + " --help") +
+           ")");
   return wrongUsage;
 }
 

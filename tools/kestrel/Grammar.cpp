@@ -15,7 +15,7 @@ U32 numberOf(std::string const& text, char const* option, char const* what) {
   char const* const end = text.data() + text.size();
   auto const read = std::from_chars(text.data(), end, number);
   if (read.ec != std::errc() || read.ptr != end)
-    throw CLI::ValidationError(option, quoted(text) + " is no " + what);
+    throw CLI::ValidationError(option, inQuotes(text) + " is no " + what);
   return number;
 }
 
@@ -65,7 +65,7 @@ std::string complaintOf(std::string const& rule) {
   try {
     xdksim::faultRule(rule);
   } catch (std::invalid_argument const& fault) {
-    return quoted(rule) + ": " + fault.what();
+    return inQuotes(rule) + ": " + fault.what();
   }
   return "";
 }

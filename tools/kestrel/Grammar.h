@@ -8,7 +8,7 @@
 
 namespace kestrel {
 
-inline std::string quoted(std::string const& text) { return '"' + text + '"'; }
+inline std::string inQuotes(std::string const& text) { return '"' + text + '"'; }
 
 /// Adds all commands to `app`, with options that fill `request`, which outlives it.
 void addCommands(CLI::App& app, Request& request);

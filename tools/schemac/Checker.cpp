@@ -25,7 +25,7 @@ class Checker {
     Position const top{schema.file, 1, 1};
     if (schema.module.empty()) diagnostics_.error(top, "this file names no module");
     if (!schema.module.empty() && !modules_.insert(schema.module).second)
-      diagnostics_.error(top, "module " + quoted(schema.module) + " stands in another file too");
+      diagnostics_.error(top, "module " + inQuotes(schema.module) + " stands in another file too");
     externs(schema);
     for (Type const& type : schema.types) declared(type);
     Symbols const symbols(builtin_, schema);
@@ -41,24 +41,24 @@ class Checker {
     local_ = builtinNames_;
     for (Extern const& type : schema.externs) {
       if (!local_.insert(type.name).second)
-        diagnostics_.error(type.at, quoted(type.name) + " is declared twice");
+        diagnostics_.error(type.at, inQuotes(type.name) + " is declared twice");
       if (type.kind != Kind::primitive && !type.options.count("header"))
-        diagnostics_.error(type.at, quoted(type.name) + " names no header");
+        diagnostics_.error(type.at, inQuotes(type.name) + " names no header");
       auto range = type.options.find("range");
       if (range != type.options.end() && !boundsIn(range->second.text))
-        diagnostics_.error(range->second.at,
-                           "expected a range such as 0..127, found " + quoted(range->second.text));
+        diagnostics_.error(range->second.at, "expected a range such as 0..127, found " +
+                                                 inQuotes(range->second.text));
       auto wire = type.options.find("wire");
       if (wire != type.options.end() && !hasWord("1 2 4 8", wire->second.text))
         diagnostics_.error(wire->second.at,
-                           "expected 1, 2, 4 or 8 bytes, found " + quoted(wire->second.text));
+                           "expected 1, 2, 4 or 8 bytes, found " + inQuotes(wire->second.text));
     }
   }
 
   void declared(Type const& type) {
     std::string name = qualified(type.space, type.name);
     if (!local_.insert(name).second || !defined_.insert(name).second)
-      diagnostics_.error(type.at, quoted(name) + " is declared twice");
+      diagnostics_.error(type.at, inQuotes(name) + " is declared twice");
   }
 
   Schema const& builtin_;

@@ -23,7 +23,7 @@ std::string described(Token const& token) {
   if (token.kind == Token::Kind::newline) return "the end of the line";
   if (token.kind == Token::Kind::end) return "the end of the file";
   if (token.kind == Token::Kind::doc) return "documentation";
-  return quoted(token.text);
+  return inQuotes(token.text);
 }
 
 }  // namespace
@@ -69,7 +69,7 @@ Token Cursor::takeKind(Token::Kind kind, std::string const& what) {
 }
 
 void Cursor::takeMark(std::string_view mark) {
-  if (!takeIfMark(mark)) fail(quoted(std::string(mark)));
+  if (!takeIfMark(mark)) fail(inQuotes(std::string(mark)));
 }
 
 Word Cursor::name(std::string const& what) {
@@ -112,7 +112,8 @@ Arguments Cursor::arguments() {
     if (!result.empty()) takeMark(",");
     skipNewlines();
     Word argument = name("an argument name");
-    result.push_back({argument.text, typeUse("the type of " + quoted(argument.text)), argument.at});
+    result.push_back(
+        {argument.text, typeUse("the type of " + inQuotes(argument.text)), argument.at});
     skipNewlines();
   }
   return result;

@@ -51,10 +51,10 @@ std::string spelled(Bounds const& bounds) {
 
 std::string integerFault(Bounds const& bounds, std::string const& text) {
   if (!looksLikeInteger(text))
-    return "the default of an integer is a number, unlike " + quoted(text);
+    return "the default of an integer is a number, unlike " + inQuotes(text);
   auto const number = integerIn(text);
   if (number && *number >= bounds.least && *number <= bounds.most) return "";
-  return quoted(text) + " is outside of " + spelled(bounds);
+  return inQuotes(text) + " is outside of " + spelled(bounds);
 }
 
 std::string enumFault(Symbol const& type, std::string const& text) {
@@ -62,7 +62,7 @@ std::string enumFault(Symbol const& type, std::string const& text) {
   // The enumerators of an enumeration from elsewhere aren't known.
   bool known = type.type ? std::ranges::any_of(type.type->rows, isNamed) : isName(text);
   if (known) return "";
-  return quoted(text) + " is no enumerator of " + quoted(type.shortName);
+  return inQuotes(text) + " is no enumerator of " + inQuotes(type.shortName);
 }
 
 std::string faultOf(Symbol const& type, TypeUse const& use, std::string const& text) {
@@ -73,9 +73,10 @@ std::string faultOf(Symbol const& type, TypeUse const& use, std::string const& t
   if (type.name == "bool")
     return text == "true" || text == "false" ? "" : "the default of a \"bool\" is true or false";
   if (type.name == "double")
-    return isDecimal(text) ? "" : "the default of a \"double\" is a number, unlike " + quoted(text);
+    return isDecimal(text) ? ""
+                           : "the default of a \"double\" is a number, unlike " + inQuotes(text);
   if (isText(type)) return "";
-  return quoted(use.name) + " has no default but its own";
+  return inQuotes(use.name) + " has no default but its own";
 }
 
 }  // namespace
@@ -110,10 +111,10 @@ void checkRange(TypeUses const& uses, Type const& type, Row const& row, Diagnost
   auto const bounds = boundsOf(*of);
   if (!uses.isInteger(*row.type))
     diagnostics.error(row.type->at,
-                      "only an integer has a range, unlike " + quoted(row.type->name));
+                      "only an integer has a range, unlike " + inQuotes(row.type->name));
   else if (row.range->most > bounds.value_or(anyInteger).most)
     diagnostics.error(row.range->at,
-                      quoted(row.type->name) + " ends at " + std::to_string(bounds->most));
+                      inQuotes(row.type->name) + " ends at " + std::to_string(bounds->most));
   if (row.range->least != 0) diagnostics.error(row.range->at, "a range begins at 0");
   auto const stored = [](Row const& each) { return each.shape->name != "computed"; };
   if (type.kind != Kind::value || std::ranges::count_if(type.rows, stored) != 1)

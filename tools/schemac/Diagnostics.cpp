@@ -22,7 +22,7 @@ std::string errorLine(Position const& at, std::string const& what) {
          ": error: " + what;
 }
 
-std::string quoted(std::string const& text) {
+std::string inQuotes(std::string const& text) {
   std::string result = "\"";
   for (char c : text) {
     auto byte = static_cast<unsigned char>(c);

@@ -18,7 +18,7 @@ struct Position {
 std::string errorLine(Position const& at, std::string const& what);
 
 /// `text` in double quotes; bytes that don't print as \xNN.
-std::string quoted(std::string const& text);
+std::string inQuotes(std::string const& text);
 
 /// The errors found so far.
 class Diagnostics {

@@ -45,17 +45,17 @@ void ElementChecker::elementKind(Row const& row) {
   if (!row.by && !isOwning(row)) return;
   Symbol const* element = uses_.find(*row.type);
   if (element && element->kind == Kind::object)
-    error(row.type->at, quoted(row.type->name) + " is an object, and an entity is needed");
+    error(row.type->at, inQuotes(row.type->name) + " is an object, and an entity is needed");
   if (isOwning(row) && row.type->isConst) error(row.type->at, "a child can't be \"const\"");
 }
 
 void ElementChecker::keyFromElsewhere(Row const& row) {
   if (isKeptByKey(row) && !row.options.count("node"))
     error(row.type->at,
-          quoted(row.type->name) + " stands elsewhere, so it needs the option \"node\"");
+          inQuotes(row.type->name) + " stands elsewhere, so it needs the option \"node\"");
   if (!row.key)
-    error(row.by->at, "the type of key " + quoted(row.by->text) + " must be given, as " +
-                          quoted(row.type->name) + " stands elsewhere");
+    error(row.by->at, "the type of key " + inQuotes(row.by->text) + " must be given, as " +
+                          inQuotes(row.type->name) + " stands elsewhere");
 }
 
 void ElementChecker::keyAttribute(Row const& row, Symbol const& element) {
@@ -63,15 +63,16 @@ void ElementChecker::keyAttribute(Row const& row, Symbol const& element) {
   auto const& parameters = element.type->arguments;
   bool first = !parameters.empty() && parameters.front().name == row.by->text;
   if (!key)
-    return error(row.by->at, quoted(row.type->name) + " has no attribute " + quoted(row.by->text));
+    return error(row.by->at,
+                 inQuotes(row.type->name) + " has no attribute " + inQuotes(row.by->text));
   if (isKeptByKey(row) && !first)
-    error(row.by->at, quoted(row.by->text) + " isn't the first constructor parameter of " +
-                          quoted(row.type->name));
+    error(row.by->at, inQuotes(row.by->text) + " isn't the first constructor parameter of " +
+                          inQuotes(row.type->name));
   else if (isKeptByKey(row) && !row.options.count("node") && !hasKey(*element.type, *row.by))
-    error(row.by->at, quoted(row.type->name) + " needs the option \"key " + row.by->text +
+    error(row.by->at, inQuotes(row.type->name) + " needs the option \"key " + row.by->text +
                           "\" to be held here");
   else if (row.key && !uses_.same(*row.key, *key))
-    error(row.key->at, quoted(row.by->text) + " has another type in " + quoted(row.type->name));
+    error(row.key->at, inQuotes(row.by->text) + " has another type in " + inQuotes(row.type->name));
   else if (!row.key)
     keyType(row, {key->name, key->isConst, key->isPointer, row.by->at});
 }
@@ -81,7 +82,7 @@ void ElementChecker::keyType(Row const& row, TypeUse const& key) {
   if (!type) return;
   if (key.isPointer) return error(key.at, "a key can't be a raw pointer");
   if (isHashed(row) && hasWord(typesWithoutHash, type->name))
-    return error(key.at, "a key needs a hash, and " + quoted(key.name) + " has none");
+    return error(key.at, "a key needs a hash, and " + inQuotes(key.name) + " has none");
   if (type->kind == Kind::value && type->type) valueAsKey(row, *type->type, key.at);
 }
 
@@ -93,16 +94,16 @@ void ElementChecker::valueAsKey(Row const& row, Type const& value, Position cons
            uses_.isInteger(*each.type);
   };
   if (!value.options.count("ordered"))
-    error(at, "a key needs an order, so " + quoted(value.name) + " needs the option \"ordered\"");
+    error(at, "a key needs an order, so " + inQuotes(value.name) + " needs the option \"ordered\"");
   else if (isHashed(row) && std::ranges::none_of(value.rows, isHash))
-    error(at, "a key needs a hash, so " + quoted(value.name) +
+    error(at, "a key needs a hash, so " + inQuotes(value.name) +
                   " needs an integer \"hash\" or \"value\"");
 }
 
 void ElementChecker::arguments(Row const& row, Symbol const& child) {
   if (!row.arguments) {
     if (child.type) return constructorOf(row, child.type->arguments);
-    return error(row.at, "the constructor parameters of " + quoted(row.type->name) +
+    return error(row.at, "the constructor parameters of " + inQuotes(row.type->name) +
                              " must be given, as it stands elsewhere");
   }
   bool allKnown = true;
@@ -112,11 +113,11 @@ void ElementChecker::arguments(Row const& row, Symbol const& child) {
     return a.name == b.name && uses_.same(a.type, b.type);
   };
   if (child.type && !std::ranges::equal(*row.arguments, child.type->arguments, alike))
-    return error(row.at, quoted(row.type->name) + " has other constructor parameters");
+    return error(row.at, inQuotes(row.type->name) + " has other constructor parameters");
   bool keyFirst = !row.arguments->empty() && row.by && row.arguments->front().name == row.by->text;
   if (!child.type && row.by && !keyFirst)
     return error(row.by->at,
-                 "key " + quoted(row.by->text) + " isn't the first constructor parameter");
+                 "key " + inQuotes(row.by->text) + " isn't the first constructor parameter");
   constructorOf(row, *row.arguments);
 }
 
@@ -129,22 +130,22 @@ void ElementChecker::constructorOf(Row const& row, Arguments const& arguments) {
     error(row.type->at,
           "the first constructor parameter of a child is its \"Mox::Name\", unlike "
           "that of " +
-              quoted(row.type->name));
+              inQuotes(row.type->name));
 }
 
 void ElementChecker::comparable(Row const& row, Argument const& argument) {
   if (row.by && argument.name == row.by->text) return;
   Symbol const* type = uses_.find(argument.type);
   if (!type) return;
-  std::string const remedy = ", so " + quoted(row.name) +
+  std::string const remedy = ", so " + inQuotes(row.name) +
                              (isKeptByKey(row) ? " needs the option \"keepFirst\""
                                                : " can't have the option \"compared\"");
   if (argument.type.isPointer || type->name == "VoidPtr")
-    error(row.at, "parameter " + quoted(argument.name) + " is a raw pointer, which isn't compared" +
-                      remedy);
+    error(row.at, "parameter " + inQuotes(argument.name) +
+                      " is a raw pointer, which isn't compared" + remedy);
   else if (hasWord(namesInComparison, argument.name))
     error(row.at,
-          "parameter " + quoted(argument.name) + " can't be compared under that name" + remedy);
+          "parameter " + inQuotes(argument.name) + " can't be compared under that name" + remedy);
 }
 
 }  // namespace schemac

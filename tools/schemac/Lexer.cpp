@@ -33,7 +33,7 @@ class Lexer {
     if (starts("->")) return mark(2);
     if (wordLength() != 0) return word();
     if (std::string_view("(),:=*").find(source_[index_]) != std::string_view::npos) return mark(1);
-    diagnostics_.error(at_, "stray " + quoted(std::string(1, source_[index_])));
+    diagnostics_.error(at_, "stray " + inQuotes(std::string(1, source_[index_])));
     step(1);
   }
 
@@ -74,7 +74,7 @@ class Lexer {
       if (text[i] != '\\') continue;
       ++i;
       if (text[i] != '\\' && text[i] != '"')
-        diagnostics_.error(at_, "unknown escape " + quoted(std::string(text.substr(i - 1, 2))));
+        diagnostics_.error(at_, "unknown escape " + inQuotes(std::string(text.substr(i - 1, 2))));
     }
   }
 

@@ -72,7 +72,7 @@ class Comparison {
     bool found = false;
     for (FileLine const& line : locked_) {
       if (line.text.empty() || line.text.front() == '#' || byKey.count(keyOf(line.text))) continue;
-      diagnostics_.error(line.at, quoted(line.text) + " is gone from the schema");
+      diagnostics_.error(line.at, inQuotes(line.text) + " is gone from the schema");
       found = true;
     }
     return found;
@@ -85,9 +85,9 @@ class Comparison {
     for (LockLine const& line : schema_) {
       auto const locked = byKey.find(line.key);
       if (locked != byKey.end() && locked->second->text == line.text()) continue;
-      diagnostics_.error(line.at, locked == byKey.end() ? quoted(line.text()) + " is new"
-                                                        : quoted(line.text()) + " is locked as " +
-                                                              quoted(locked->second->text));
+      diagnostics_.error(line.at, locked == byKey.end() ? inQuotes(line.text()) + " is new"
+                                                        : inQuotes(line.text()) + " is locked as " +
+                                                              inQuotes(locked->second->text));
       found = true;
     }
     return found;
@@ -98,7 +98,7 @@ class Comparison {
     auto const wanted = linesOf(file_, wholeText(schema_));
     for (std::size_t i = 0; i < locked_.size(); ++i) {
       if (i < wanted.size() && locked_[i].text == wanted[i].text) continue;
-      return diagnostics_.error(locked_[i].at, quoted(locked_[i].text) + " is out of place");
+      return diagnostics_.error(locked_[i].at, inQuotes(locked_[i].text) + " is out of place");
     }
   }
 

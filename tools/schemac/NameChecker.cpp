@@ -94,14 +94,14 @@ class NameChecker {
 
   void made(Row const& row) {
     if (row.shape->form != Form::call && symbols_.find(type_.space, row.name))
-      return error(row, quoted(row.name) + " is the name of a type");
+      return error(row, inQuotes(row.name) + " is the name of a type");
     std::vector<std::string> const names = namesOf(row);
     if (auto twin = makers_.find(row.name);
         twin != makers_.end() && twin->second.row == row.name && twin->second.type.empty())
-      return error(row, quoted(row.name) + " stands twice");
+      return error(row, inQuotes(row.name) + " stands twice");
     for (std::string const& name : names)
       if (std::string const fault = faultOf(row, name); !fault.empty())
-        return error(row, quoted(name) + " of " + quoted(row.name) + " " + fault);
+        return error(row, inQuotes(name) + " of " + inQuotes(row.name) + " " + fault);
     for (std::string const& name : names) makers_[name] = {row.name, ""};
   }
 
@@ -109,8 +109,8 @@ class NameChecker {
     auto maker = makers_.find(name);
     if (maker != makers_.end()) {
       std::string const& base = maker->second.type;
-      return "is made for " + quoted(maker->second.row) +
-             (base.empty() ? "" : " of " + quoted(base)) + " too";
+      return "is made for " + inQuotes(maker->second.row) +
+             (base.empty() ? "" : " of " + inQuotes(base)) + " too";
     }
     if (takenByKind_.count(name))
       return "is a name that each " + std::string(kindName(type_.kind)) + " has already";
@@ -122,7 +122,8 @@ class NameChecker {
   // A tag hides what the tags behind it name: classes of nodes, and types without a namespace.
   std::string faultOfTag(Row const& row, std::string const& tag) const {
     if (hasWord(row.shape->tagTypes, tag)) return "has a type of that name itself";
-    if (makers_.count(tag)) return "hides " + quoted(tag) + " of " + quoted(makers_.at(tag).row);
+    if (makers_.count(tag))
+      return "hides " + inQuotes(tag) + " of " + inQuotes(makers_.at(tag).row);
     Symbol const* type = symbols_.find(type_.space, tag);
     if (type && type->kind == Kind::primitive) return "is the name of a type";
     return "";
@@ -133,14 +134,14 @@ class NameChecker {
     for (Argument const& each : arguments) {
       word(each.name, each.at);
       if (!names.insert(each.name).second)
-        diagnostics_.error(each.at, "parameter " + quoted(each.name) + " twice");
+        diagnostics_.error(each.at, "parameter " + inQuotes(each.name) + " twice");
       if (symbols_.find(type_.space, each.name))
-        diagnostics_.error(each.at, quoted(each.name) + " is the name of a type");
+        diagnostics_.error(each.at, inQuotes(each.name) + " is the name of a type");
     }
   }
 
   void word(std::string const& name, Position const& at) {
-    if (isReserved(name)) diagnostics_.error(at, quoted(name) + " is a reserved word of C++");
+    if (isReserved(name)) diagnostics_.error(at, inQuotes(name) + " is a reserved word of C++");
   }
 
   void error(Row const& row, std::string const& what) { diagnostics_.error(row.at, what); }
@@ -183,10 +184,10 @@ class NamespaceChecker {
       std::string const segment = firstSpace(left);
       left.erase(0, std::min(segment.size() + 2, left.size()));
       if (isReserved(segment))
-        diagnostics_.error(schema_.spaceAt, quoted(segment) + " is a reserved word of C++");
+        diagnostics_.error(schema_.spaceAt, inQuotes(segment) + " is a reserved word of C++");
       else if (inner && outer_.count(segment))
-        diagnostics_.error(schema_.spaceAt,
-                           quoted(schema_.space) + " hides the outer namespace " + quoted(segment));
+        diagnostics_.error(schema_.spaceAt, inQuotes(schema_.space) +
+                                                " hides the outer namespace " + inQuotes(segment));
       outer_.insert(segment);
     }
   }
@@ -201,37 +202,37 @@ class NamespaceChecker {
     if (isTwin(type)) return;
     if (!beginsWithCapital(type.name))
       return error(type.at,
-                   "the name of a type begins with a capital, unlike " + quoted(type.name));
+                   "the name of a type begins with a capital, unlike " + inQuotes(type.name));
     if (outer_.count(type.name))
-      return error(type.at, quoted(type.name) + " is the name of a namespace");
+      return error(type.at, inQuotes(type.name) + " is the name of a namespace");
     Symbol const* global = symbols_.find("", type.name);
     if (global && global->type != &type)
-      return error(type.at, quoted(qualified(type.space, type.name)) + " hides the type " +
-                                quoted(type.name));
+      return error(type.at, inQuotes(qualified(type.space, type.name)) + " hides the type " +
+                                inQuotes(type.name));
     for (Kind kind : {Kind::entity, Kind::object, Kind::value})
       if (hasWord(namesOfKind(kind), type.name))
-        return error(type.at, quoted(type.name) + " is a name that each " +
+        return error(type.at, inQuotes(type.name) + " is a name that each " +
                                   std::string(kindName(kind)) + " has already");
     Words const words = wordsFor(schema_, type);
     std::vector<std::string> names = spelled(wordsOf(namesOfType), words);
     if (type.kind == Kind::enumeration)
       std::ranges::copy(spelled(wordsOf(namesOfEnum), words), std::back_inserter(names));
     for (std::string const& name : names)
-      if (auto [taker, added] = takers_.emplace(name, quoted(type.name));
-          !added && taker->second != quoted(type.name))
-        return error(type.at, quoted(name) + " of " + quoted(type.name) + " is made for " +
+      if (auto [taker, added] = takers_.emplace(name, inQuotes(type.name));
+          !added && taker->second != inQuotes(type.name))
+        return error(type.at, inQuotes(name) + " of " + inQuotes(type.name) + " is made for " +
                                   taker->second + " too");
   }
 
   void enumerator(Type const& type, Row const& row) {
     if (symbols_.find(type.space, row.name))
-      return error(row.at, quoted(row.name) + " is the name of a type");
-    std::string const owner = quoted(type.name);
+      return error(row.at, inQuotes(row.name) + " is the name of a type");
+    std::string const owner = inQuotes(type.name);
     auto [taker, added] = takers_.emplace(row.name, owner);
     if (added) return;
     error(row.at,
-          quoted(row.name) + (taker->second == owner ? " stands twice"
-                                                     : " is made for " + taker->second + " too"));
+          inQuotes(row.name) + (taker->second == owner ? " stands twice"
+                                                       : " is made for " + taker->second + " too"));
   }
 
   void error(Position const& at, std::string const& what) { diagnostics_.error(at, what); }

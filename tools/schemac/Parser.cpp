@@ -134,7 +134,7 @@ class Parser {
     if (takeDocOrNewline()) return true;
     bool lost = cursor_.is(Token::Kind::end) || blockHere();
     if (lost) {
-      diagnostics_.error(type.at, quoted(type.name) + " has no \"end\"");
+      diagnostics_.error(type.at, inQuotes(type.name) + " has no \"end\"");
       return false;
     }
     if (cursor_.takeIfWord("end")) {
@@ -185,8 +185,8 @@ class Parser {
     if (plain && (!named || !nameFollows)) return plain;
     if (!named) cursor_.fail("a shape, such as \"scalar\"");
     if (!hasWord(named->blocks, kindName(kind)))
-      throw LineError{word.at, quoted(std::string(named->name)) + " can't stand in " +
-                                   quoted(std::string(kindName(kind))) + " blocks"};
+      throw LineError{word.at, inQuotes(std::string(named->name)) + " can't stand in " +
+                                   inQuotes(std::string(kindName(kind))) + " blocks"};
     cursor_.take();
     return named;
   }
@@ -196,12 +196,12 @@ class Parser {
       case Form::nothing:
         return;
       case Form::type:
-        row.type = cursor_.typeUse("the type of " + quoted(row.name));
+        row.type = cursor_.typeUse("the type of " + inQuotes(row.name));
         return;
       case Form::mapping:
-        row.key = cursor_.typeUse("the key type of " + quoted(row.name));
+        row.key = cursor_.typeUse("the key type of " + inQuotes(row.name));
         cursor_.takeMark("->");
-        row.type = cursor_.typeUse("the value type of " + quoted(row.name));
+        row.type = cursor_.typeUse("the value type of " + inQuotes(row.name));
         return;
       case Form::keyed:
       case Form::element:
@@ -215,10 +215,10 @@ class Parser {
 
   // "key -> element", "element by attribute" or "element by attribute type".
   void keyed(Row& row) {
-    TypeUse first = cursor_.typeUse("the type of " + quoted(row.name));
+    TypeUse first = cursor_.typeUse("the type of " + inQuotes(row.name));
     if (row.shape->form == Form::keyed && cursor_.takeIfMark("->")) {
       row.key = first;
-      row.type = cursor_.typeUse("the element type of " + quoted(row.name));
+      row.type = cursor_.typeUse("the element type of " + inQuotes(row.name));
       return;
     }
     row.type = first;
@@ -227,7 +227,7 @@ class Parser {
     row.by = cursor_.name("the attribute that is the key");
     bool typeFollows =
         cursor_.is(Token::Kind::word) && !optionAt(row.shape->name, cursor_.peek().text);
-    if (typeFollows) row.key = cursor_.typeUse("the key type of " + quoted(row.name));
+    if (typeFollows) row.key = cursor_.typeUse("the key type of " + inQuotes(row.name));
   }
 
   Options options(std::string_view place) {
@@ -235,19 +235,19 @@ class Parser {
     while (cursor_.is(Token::Kind::word)) {
       Token word = cursor_.peek();
       Option const* option = optionAt(place, word.text);
-      if (!option) throw LineError{word.at, "unknown option " + quoted(word.text)};
+      if (!option) throw LineError{word.at, "unknown option " + inQuotes(word.text)};
       cursor_.take();
       Word argument{"", word.at};
       if (option->takes == Option::Takes::word) argument = cursor_.name(argumentOf(word));
       if (option->takes == Option::Takes::text) argument = cursor_.textOrWord(argumentOf(word));
       if (!result.emplace(word.text, argument).second)
-        diagnostics_.error(word.at, "option " + quoted(word.text) + " twice");
+        diagnostics_.error(word.at, "option " + inQuotes(word.text) + " twice");
     }
     return result;
   }
 
   static std::string argumentOf(Token const& option) {
-    return "the argument of " + quoted(option.text);
+    return "the argument of " + inQuotes(option.text);
   }
 
   // What stood above the line and what stands behind it.

@@ -36,7 +36,7 @@ void TypeChecker::base() {
   Symbol const* base = uses_.typed(*type_.base, kindName(type_.kind));
   if (base && base->type && base->type->at.line >= type_.at.line)
     error(type_.base->at,
-          "the base " + quoted(type_.base->name) + " must stand above " + quoted(type_.name));
+          "the base " + inQuotes(type_.base->name) + " must stand above " + inQuotes(type_.name));
   else if (base && base->type)
     baseParameters(*base->type);
 }
@@ -49,8 +49,8 @@ void TypeChecker::baseParameters(Type const& base) {
     return uses_.same(a.type, b.type);
   };
   if (!std::ranges::equal(handed, base.arguments, alike))
-    error(type_.base->at, "the parameters that aren't rows of " + quoted(type_.name) +
-                              " are other than those of " + quoted(base.name));
+    error(type_.base->at, "the parameters that aren't rows of " + inQuotes(type_.name) +
+                              " are other than those of " + inQuotes(base.name));
 }
 
 // A parameter that is no row of the type goes to the base.
@@ -63,7 +63,7 @@ void TypeChecker::constructor() {
     if (!uses_.known(each.type) || type_.base || isParam(each.name)) continue;
     bool entityName = type_.kind == Kind::entity && each.name == "name";
     if (!entityName)
-      error(each.at, "parameter " + quoted(each.name) + " has no \"param\" row");
+      error(each.at, "parameter " + inQuotes(each.name) + " has no \"param\" row");
     else if (each.type.name != "Mox::Name")
       error(each.type.at, "the name of an entity is a \"Mox::Name\"");
   }
@@ -74,12 +74,13 @@ void TypeChecker::keyOption() {
   if (key == type_.options.end()) return;
   std::string const& name = key->second.text;
   if (!argument(name))
-    error(key->second.at, quoted(name) + " is no constructor parameter of " + quoted(type_.name));
+    error(key->second.at,
+          inQuotes(name) + " is no constructor parameter of " + inQuotes(type_.name));
   Type const* base = symbols_.ownBase(type_);
   if (!base || name == "name" || isParam(name)) return;
   auto baseKey = base->options.find("key");
   if (baseKey == base->options.end() || baseKey->second.text != name)
-    error(key->second.at, quoted(base->name) + " bears " + quoted(name) +
+    error(key->second.at, inQuotes(base->name) + " bears " + inQuotes(name) +
                               ", so it needs the option \"key " + name + "\" too");
 }
 
@@ -90,7 +91,7 @@ void TypeChecker::content() {
     byHand = byHand && given != type_.options.end();
     if (given != type_.options.end() && isSingle(symbols_, type_))
       error(given->second.at,
-            quoted(option) + " is for records, and " + quoted(type_.name) + " is one number");
+            inQuotes(option) + " is for records, and " + inQuotes(type_.name) + " is one number");
   }
   if (type_.kind == Kind::value && !byHand && !type_.rows.empty() &&
       std::ranges::none_of(type_.rows, isFieldOfValue))
@@ -123,13 +124,13 @@ void TypeChecker::numbers() {
     if (each.id == noNumber) continue;
     std::string const number = std::to_string(each.id);
     if (each.id < first || each.id > last)
-      error(each.at, "number " + number + " of " + quoted(each.name) + " is outside of " +
+      error(each.at, "number " + number + " of " + inQuotes(each.name) + " is outside of " +
                          std::to_string(first) + " to " + std::to_string(last));
     else if (each.id <= previous)
-      error(each.at, "number " + number + " of " + quoted(each.name) +
+      error(each.at, "number " + number + " of " + inQuotes(each.name) +
                          (each.id == previous ? " is taken" : " isn't in ascending order"));
     else if (type_.kind == Kind::enumeration && each.id != previous + 1)
-      error(each.at, "enumerators count up from 0 without a gap, unlike " + quoted(each.name));
+      error(each.at, "enumerators count up from 0 without a gap, unlike " + inQuotes(each.name));
     previous = std::max(previous, each.id);
   }
 }
@@ -137,7 +138,7 @@ void TypeChecker::numbers() {
 void TypeChecker::row(Row const& row) {
   if (type_.kind == Kind::enumeration) return;
   if (row.name.front() >= 'A' && row.name.front() <= 'Z')
-    error(row.at, "the name of a row begins with a small letter, unlike " + quoted(row.name));
+    error(row.at, "the name of a row begins with a small letter, unlike " + inQuotes(row.name));
   rowTypes(row);
   param(row);
   counter(row);
@@ -161,12 +162,12 @@ void TypeChecker::rowTypes(Row const& row) {
   bool itself = shape == "param" && type && type->type == &type_;
   if (type && type->type && !reference && !itself && type->type->at.line >= type_.at.line &&
       type->kind != Kind::enumeration)
-    error(row.type->at, quoted(row.type->name) + " must stand above " + quoted(type_.name));
+    error(row.type->at, inQuotes(row.type->name) + " must stand above " + inQuotes(type_.name));
   if (type && row.type->isPointer && (!any || type_.kind == Kind::value))
     error(row.type->at, withArticle(shape) + " can't hold a raw pointer here");
   // The frame's record tables know how to read, write and compare certain types alone.
   if (type && record && !(type->external && type->external->options.count("field")))
-    error(row.type->at, quoted(row.type->name) + " can't be a field of a value");
+    error(row.type->at, inQuotes(row.type->name) + " can't be a field of a value");
   if (shape != "operation" || !row.arguments) return;
   for (Argument const& each : *row.arguments) uses_.known(each.type);
 }
@@ -183,19 +184,19 @@ void TypeChecker::bound() {
   if (!found->range) error(found->at, "\"bound\" needs a range");
   for (char const* option : {"ordered", "mutable"})
     if (type_.options.count(option))
-      error(type_.options.at(option).at, quoted(option) + " is the base's to say");
+      error(type_.options.at(option).at, inQuotes(option) + " is the base's to say");
   if (Type const* base = symbols_.ownBase(type_)) boundOf(*base, *found);
 }
 
 // The field keeps its name, its type and its number; and nobody else may set it behind the bound.
 void TypeChecker::boundOf(Type const& base, Row const& row) {
   if (!isSingle(symbols_, base))
-    return error(type_.base->at, "the base " + quoted(base.name) + " isn't one number");
+    return error(type_.base->at, "the base " + inQuotes(base.name) + " isn't one number");
   if (base.options.count("mutable"))
-    return error(type_.base->at, "the base " + quoted(base.name) + " can be set past a bound");
+    return error(type_.base->at, "the base " + inQuotes(base.name) + " can be set past a bound");
   Row const& field = *std::ranges::find_if(base.rows, isFieldOfValue);
   if (field.name != row.name || field.id != row.id || !uses_.same(*field.type, *row.type))
-    error(row.at, quoted(row.name) + " isn't the field of " + quoted(base.name));
+    error(row.at, inQuotes(row.name) + " isn't the field of " + inQuotes(base.name));
 }
 
 void TypeChecker::computed(Row const& row) {
@@ -207,9 +208,9 @@ void TypeChecker::computed(Row const& row) {
   auto const isField = [](Row const& each) { return each.shape->name == "field"; };
   if (type_.kind != Kind::value || isSingle(symbols_, type_) ||
       std::ranges::none_of(type_.rows, isField))
-    error(row.at, quoted(row.name) + " needs a value that is a record of fields");
+    error(row.at, inQuotes(row.name) + " needs a value that is a record of fields");
   else if (!uses_.isInteger(*row.type))
-    error(row.type->at, "a hash is an integer, unlike " + quoted(row.type->name));
+    error(row.type->at, "a hash is an integer, unlike " + inQuotes(row.type->name));
 }
 
 void TypeChecker::computedOf(Row const& row, Word const& field) {
@@ -218,35 +219,35 @@ void TypeChecker::computedOf(Row const& row, Word const& field) {
   };
   auto const found = std::ranges::find_if(type_.rows, isMeant);
   if (found == type_.rows.end())
-    error(field.at, quoted(type_.name) + " has no field or parameter " + quoted(field.text));
+    error(field.at, inQuotes(type_.name) + " has no field or parameter " + inQuotes(field.text));
   else if (!uses_.same(*found->type, *row.type) && !holds(uses_, *row.type, *found->type))
-    error(row.type->at, quoted(row.type->name) + " doesn't hold " + quoted(field.text));
+    error(row.type->at, inQuotes(row.type->name) + " doesn't hold " + inQuotes(field.text));
 }
 
 void TypeChecker::param(Row const& row) {
   if (row.shape->name != "param") return;
   Argument const* parameter = argument(row.name);
   if (!parameter)
-    error(row.at, quoted(row.name) + " is no constructor parameter of " + quoted(type_.name));
+    error(row.at, inQuotes(row.name) + " is no constructor parameter of " + inQuotes(type_.name));
   else if (!uses_.same(parameter->type, *row.type))
-    error(row.type->at, quoted(row.name) + " has another type as constructor parameter");
+    error(row.type->at, inQuotes(row.name) + " has another type as constructor parameter");
 }
 
 void TypeChecker::counter(Row const& row) {
   if (row.shape->name == "counter" && uses_.find(*row.type) && !uses_.isInteger(*row.type))
-    error(row.type->at, "a counter counts in an integer, unlike " + quoted(row.type->name));
+    error(row.type->at, "a counter counts in an integer, unlike " + inQuotes(row.type->name));
 }
 
 // What a base from elsewhere bears isn't known; one that stands below is reported as that.
 void TypeChecker::preset(Row const& row) {
   if (row.shape->name != "preset") return;
-  if (!row.defaultValue) error(row.at, "a preset needs a value, unlike " + quoted(row.name));
-  if (!type_.base) return error(row.at, "a preset needs a base that bears " + quoted(row.name));
+  if (!row.defaultValue) error(row.at, "a preset needs a value, unlike " + inQuotes(row.name));
+  if (!type_.base) return error(row.at, "a preset needs a base that bears " + inQuotes(row.name));
   auto const isTwin = [&row](Row const& each) {
     return each.name == row.name && each.shape == row.shape;
   };
   if (&*std::ranges::find_if(type_.rows, isTwin) != &row)
-    return error(row.at, quoted(row.name) + " is preset twice");
+    return error(row.at, inQuotes(row.name) + " is preset twice");
   auto const bears = [&row](Row const& each) {
     return each.name == row.name && each.shape->name == "scalar";
   };
@@ -256,10 +257,11 @@ void TypeChecker::preset(Row const& row) {
     auto const found = std::ranges::find_if(base->rows, bears);
     if (found != base->rows.end() && uses_.same(*found->type, *row.type)) return;
     if (found != base->rows.end())
-      return error(row.type->at, quoted(row.name) + " has another type in " + quoted(base->name));
+      return error(row.type->at,
+                   inQuotes(row.name) + " has another type in " + inQuotes(base->name));
     level = base;
   }
-  error(row.at, "no base has a scalar " + quoted(row.name));
+  error(row.at, "no base has a scalar " + inQuotes(row.name));
 }
 
 Argument const* TypeChecker::argument(std::string const& name) const {

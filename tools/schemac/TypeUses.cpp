@@ -21,24 +21,24 @@ std::string withArticle(std::string_view word) {
 Symbol const* TypeUses::known(TypeUse const& use) {
   Symbol const* found = find(use);
   if (!found) {
-    diagnostics_.error(use.at, "unknown type " + quoted(use.name));
+    diagnostics_.error(use.at, "unknown type " + inQuotes(use.name));
     return nullptr;
   }
   std::string const kind = withArticle(kindName(found->kind));
   if (use.isConst && !use.isPointer && !hasWord(countedKinds, kindName(found->kind)))
     diagnostics_.error(
-        use.at, "only a reference can be \"const\", and " + quoted(use.name) + " is " + kind);
+        use.at, "only a reference can be \"const\", and " + inQuotes(use.name) + " is " + kind);
   // A header that comes first can name a class ahead of its definition, but no enumeration.
   bool below = found->type && found->type->at.line > type_.at.line;
   if (below && found->kind == Kind::enumeration)
-    diagnostics_.error(use.at, quoted(use.name) + " must stand above " + quoted(type_.name));
+    diagnostics_.error(use.at, inQuotes(use.name) + " must stand above " + inQuotes(type_.name));
   return found;
 }
 
 Symbol const* TypeUses::typed(TypeUse const& use, std::string_view kinds) {
   Symbol const* found = known(use);
   if (!found || hasWord(kinds, kindName(found->kind))) return found;
-  diagnostics_.error(use.at, quoted(use.name) + " is " + withArticle(kindName(found->kind)) +
+  diagnostics_.error(use.at, inQuotes(use.name) + " is " + withArticle(kindName(found->kind)) +
                                  ", and " + withArticle(joined(kinds)) + " is needed");
   return nullptr;
 }
