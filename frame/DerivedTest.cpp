@@ -69,7 +69,7 @@ TEST_F(DerivedTest, AnEntityMayBeMadeOfItsLike) {
   EXPECT_EQ(offshoot->parentBush(), bush);
 }
 
-std::string complaintOf(std::function<void()> const& step) {
+std::string nameInUse(std::function<void()> const& step) {
   try {
     step();
   } catch (Mox::NameInUseException const& exception) {
@@ -82,11 +82,11 @@ TEST_F(DerivedTest, ParametersThatAreEntitiesAreComparedByIdentity) {
   Mox::Ptr<Bush> const bush = new Bush("bush", nullptr);
   auto const kept = bush->branchesIs(7, stalk, everyShape::calm);
   EXPECT_EQ(bush->branchesIs(7, stalk, everyShape::calm), kept);
-  EXPECT_EQ(complaintOf([&] { bush->branchesIs(7, nullptr, everyShape::tense); }),
+  EXPECT_EQ(nameInUse([&] { bush->branchesIs(7, nullptr, everyShape::tense); }),
             "Reinstantiating the entity with name 7 where constructor parameter attribute _leaf "
             "has a different value of None than the current value of "
             "Entity('everyShape::Leaf', 'stalk') not allowed");
-  EXPECT_EQ(complaintOf([&] { bush->branchesIs(7, stalk, everyShape::tense); }),
+  EXPECT_EQ(nameInUse([&] { bush->branchesIs(7, stalk, everyShape::tense); }),
             "Reinstantiating the entity with name 7 where constructor parameter attribute _mood "
             "has a different value of 'tense' than the current value of 'calm' not allowed");
 }

@@ -8,17 +8,6 @@
 namespace frametest {
 namespace {
 
-everyShape::Mix const mix;
-
-std::string complaintOf(std::function<void()> const& step) {
-  try {
-    step();
-  } catch (Mox::Exception const& exception) {
-    return exception.what();
-  }
-  return "";
-}
-
 TEST(OwnTest, SameNameKeepsTheChildAndStepsTheVersionAlone) {
   Watched every;
   auto const child = every->bestIs("a", 1, mix);

@@ -7,8 +7,6 @@
 namespace frametest {
 namespace {
 
-everyShape::Mix const mix;
-
 TEST(ReentryTest, LaterObserversHearTheKeyThatChanged) {
   Watched every;
   Mox::Ptr<Listener> const second = new Listener;

@@ -9,6 +9,18 @@
 
 namespace frametest {
 
+inline everyShape::Mix const mix;
+
+/// What the runtime's exception says that `step` throws; "" for none.
+inline std::string complaintOf(std::function<void()> const& step) {
+  try {
+    step();
+  } catch (Mox::Exception const& exception) {
+    return exception.what();
+  }
+  return "";
+}
+
 /// Writes each hook down, as "level;" or "bytes 3;".  A story may act in a hook: `then` is called
 /// after the note.
 class Listener : public everyShape::Derived::NotifieeConst {

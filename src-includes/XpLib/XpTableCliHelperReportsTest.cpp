@@ -5,7 +5,7 @@ namespace Kestrel::xpTableCliHelper {
 
 namespace {
 
-constexpr char const* headLine = "           Name   Type  Copies     SRAM     TCAM     ISME\n";
+constexpr char const* summaryHead = "           Name   Type  Copies     SRAM     TCAM     ISME\n";
 
 std::string line(EntryPtr const& entry) {
   return helper({entry})->displaySingleDynamicTableSummary(entry->tableId()).charPtr();
@@ -42,7 +42,7 @@ TEST(TableListTest, EachCallMakesACollectionOfItsOwn) {
 }
 
 TEST(SummaryTest, HeadLineAloneWithoutTables) {
-  EXPECT_EQ(helper({})->displayAllDynamicTablesSummary(), headLine);
+  EXPECT_EQ(helper({})->displayAllDynamicTablesSummary(), summaryHead);
 }
 
 TEST(SummaryTest, LineOfAHashTable) {
@@ -55,7 +55,7 @@ TEST(SummaryTest, AllLinesInTheOrderOfTheHashMap) {
       helper({table(1, "A", std::vector{blocks(0, 0, 1)}), table(2, "B", std::vector{match(1, 0)}),
               table(3, "C", std::vector{isme(0, 4096, 0)}), bare(4, "D")})
           ->displayAllDynamicTablesSummary(),
-      Mox::String8(headLine) +
+      Mox::String8(summaryHead) +
           "              D  MATCH       0        0        0        0\n"
           "              B  MATCH       1        0     3072        0\n"
           "              A DIRECT       1     1024        0        0\n"

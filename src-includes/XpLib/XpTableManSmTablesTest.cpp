@@ -22,7 +22,7 @@ Names catalogue() {
 }
 
 /// The names under which a chip of that profile publishes its tables.
-Names published(xdksim::Profile const& profile) {
+Names publishedBy(xdksim::Profile const& profile) {
   Rig rig(profile);
   auto const sm = rig.bringUp();
   Names names;
@@ -32,7 +32,7 @@ Names published(xdksim::Profile const& profile) {
 }
 
 TEST(PublishedNameTest, IsThatOfABringUp) {
-  Names expected = published(xdksim::defaultProfile());
+  Names expected = publishedBy(xdksim::defaultProfile());
   expected[14] = "LOCAL_VTEP_VNI";  // which stands in place of others, which that chip has
   EXPECT_EQ(catalogue(), expected);
 }
@@ -40,7 +40,7 @@ TEST(PublishedNameTest, IsThatOfABringUp) {
 TEST(PublishedNameTest, CombinedTableHasOne) {
   auto profile = fullProfile();
   profile.tables[14] = table<xpHashTableContext>(1);
-  EXPECT_EQ(published(profile).at(14), publishedName(14).charPtr());
+  EXPECT_EQ(publishedBy(profile).at(14), publishedName(14).charPtr());
 }
 
 TEST(PublishedNameTest, TableOfNoRowOrOfARowWithoutNameHasNone) {

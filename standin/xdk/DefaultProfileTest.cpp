@@ -111,7 +111,7 @@ U32 lowByte(Profile const& profile, U32 id) {
   return table == profile.tables.end() ? 0 : table->second.copyNum & 0xFF;
 }
 
-bool isInUse(Profile const& profile, U32 id) {
+bool isTableInUse(Profile const& profile, U32 id) {
   auto table = profile.tables.find(id);
   if (table == profile.tables.end()) return false;
   return std::visit(
@@ -180,7 +180,7 @@ TEST(DefaultProfileTest, EveryTableThatIsPublishedIsThere) {
   for (U32 id = 19; id <= 44; ++id) ids.push_back(id);
   for (U32 id = 53; id <= 61; ++id) ids.push_back(id);
   for (U32 id : ids) {
-    EXPECT_TRUE(isInUse(profile, id)) << id;
+    EXPECT_TRUE(isTableInUse(profile, id)) << id;
     EXPECT_GT(lowByte(profile, id), 0u) << id;
   }
 }
@@ -191,7 +191,7 @@ TEST(DefaultProfileTest, EveryCopyHasItsContext) {
     U32 id = tableId;
     U32 copies = table.copyNum;
     auto size = std::visit([](auto const& contexts) { return contexts.size(); }, table.contexts);
-    if (isInUse(profile, id)) {
+    if (isTableInUse(profile, id)) {
       EXPECT_EQ(size, copies) << id;
     }
   }
@@ -200,7 +200,7 @@ TEST(DefaultProfileTest, EveryCopyHasItsContext) {
 TEST(DefaultProfileTest, TheSeparateTunnelTablesStandInPlaceOfTheCombinedOne) {
   Profile profile = defaultProfile();
   EXPECT_EQ(lowByte(profile, 14), 0u);
-  EXPECT_FALSE(isInUse(profile, 14));
+  EXPECT_FALSE(isTableInUse(profile, 14));
 }
 
 TEST(DefaultProfileTest, CopiesOfGroupsAgree) {

@@ -19,8 +19,8 @@ using Statuses = std::vector<S32>;
 S32 initEgress() { return xpEgressAclMgr::instance()->init(); }
 S32 removeEgress() { return xpEgressAclMgr::instance()->removeDevice(0); }
 
-xpPrimitiveMgr* fdb() { return xpL2Pl::instance()->getPrimitiveMgr(xpFdbMgr::myId.at(0)); }
-bool fdbIsThere() { return fdb() != nullptr; }
+xpPrimitiveMgr* rawFdb() { return xpL2Pl::instance()->getPrimitiveMgr(xpFdbMgr::myId.at(0)); }
+bool fdbIsThere() { return rawFdb() != nullptr; }
 
 /// What `calls` calls answer.
 Statuses answers(U32 calls, S32 (*call)() = initEgress) {
@@ -192,7 +192,7 @@ TEST(FaultRulesTest, ReportTellsHowOftenEachFired) {
   sim.newFault("xpEgressAclMgr::removeDevice kill");
   sim.newFault("xpFdbMgr null at 2");
   answers(6);
-  fdb();
+  rawFdb();
   EXPECT_EQ(sim.faultReport(),
             "simulated SDK: fault \"xpEgressAclMgr::init 5 at 2\" fired once\n"
             "simulated SDK: fault \"xpEgressAclMgr::init 9 every 3\" fired 2 times\n"

@@ -22,7 +22,7 @@ using testing::KilledBySignal;
   std::abort();
 }
 
-void initEgress() { xpEgressAclMgr::instance()->init(); }
+void initEgressAcls() { xpEgressAclMgr::instance()->init(); }
 
 /// Both ways in which a test can watch a process die.
 struct HistoryTest : testing::TestWithParam<char const*> {
@@ -43,7 +43,7 @@ TEST_P(HistoryTest, CallsStandBehindTheLineOfTheAbort) {
       [] {
         Sim sim;
         sim.statusIs("xpEgressAclMgr::addDevice", {-3});
-        initEgress();
+        initEgressAcls();
         xpEgressAclMgr::instance()->addDevice(0, XP_INIT_COLD);
         fail();
       },
@@ -58,7 +58,7 @@ TEST_P(HistoryTest, OneCallIsNotSeveral) {
       SIGABRT,
       [] {
         Sim sim;
-        initEgress();
+        initEgressAcls();
         fail();
       },
       "it failed\nsimulated SDK: the last call:\nxpEgressAclMgr::init -> 0\n");
@@ -81,7 +81,7 @@ TEST_P(HistoryTest, NothingIsToldWithoutASim) {
       [] {
         {
           Sim sim;
-          initEgress();
+          initEgressAcls();
         }
         fail();
       },
@@ -93,7 +93,7 @@ TEST_P(HistoryTest, ResetForgetsTheCalls) {
       SIGABRT,
       [] {
         Sim sim;
-        initEgress();
+        initEgressAcls();
         sim.reset();
         fail();
       },
@@ -105,7 +105,7 @@ TEST_P(HistoryTest, MisuseIsAnAbortLikeAnyOther) {
       SIGABRT,
       [] {
         Sim sim;
-        initEgress();
+        initEgressAcls();
         xpEgressAclMgr::instance()->loadDefaultValue(0);
       },
       "simulated SDK: xpEgressAclMgr lacks loadDefaultValue device=\n"
@@ -117,8 +117,8 @@ TEST_P(HistoryTest, SignalFromOutsideIsAnAbortToo) {
       SIGABRT,
       [] {
         Sim sim;
-        initEgress();
-        kill(getpid(), SIGABRT);
+        initEgressAcls();
+        ::kill(getpid(), SIGABRT);
       },
       "simulated SDK: the last call:\nxpEgressAclMgr::init -> 0\n");
 }
@@ -128,14 +128,14 @@ TEST_P(HistoryTest, AnotherEndTellsNothing) {
       SIGKILL,
       [] {
         Sim sim;
-        initEgress();
+        initEgressAcls();
         raise(SIGKILL);
       },
       "");
   EXPECT_EXIT(
       {
         Sim sim;
-        initEgress();
+        initEgressAcls();
         std::exit(3);
       },
       testing::ExitedWithCode(3), "^$");
@@ -158,7 +158,7 @@ std::string toldAfter(U32 number) {
         std::vector<S32> statuses;
         for (U32 i = 0; i < number; ++i) statuses.push_back(static_cast<S32>(i));
         sim.statusIs("xpEgressAclMgr::init", statuses);
-        for (U32 i = 0; i < number; ++i) initEgress();
+        for (U32 i = 0; i < number; ++i) initEgressAcls();
         std::abort();
       },
       KilledBySignal(SIGABRT), testing::Truly(take));
@@ -175,7 +175,7 @@ TEST(HistoryRoomTest, OldestGoFirstWhenThereAreMore) {
   EXPECT_EQ(toldAfter(600), "simulated SDK: the last 256 calls:\n" + expected.substr(first.size()));
 }
 
-ManagerId fdb() { return {managerOf("xpFdbMgr"), 0}; }
+ManagerId fdbManager() { return {managerOf("xpFdbMgr"), 0}; }
 
 // What an abort tells that comes now.
 std::string told(History const& history) {
@@ -187,7 +187,7 @@ std::string told(History const& history) {
 TEST(HistoryLineTest, CallThatHasNotAnsweredHasNoStatus) {
   History history;
   EXPECT_EQ(told(history), "");
-  history.callBegins(fdb(), Call::addTable, {.device = 3, .copies = 1, .mode = 1}, nullptr);
+  history.callBegins(fdbManager(), Call::addTable, {.device = 3, .copies = 1, .mode = 1}, nullptr);
   std::string const line = "xpFdbMgr[0]::addDevice device=3 table=- copies=1 mode=1 -> ";
   EXPECT_EQ(told(history), "simulated SDK: the last call:\n" + line + "?\n");
   history.callEnds(42);
@@ -198,10 +198,10 @@ TEST(HistoryLineTest, CallThatHasNotAnsweredHasNoStatus) {
 TEST(HistoryLineTest, CallThatHasNotAnsweredIsOneOfTheLast) {
   History history;
   for (U32 i = 0; i < 300; ++i) {
-    history.callBegins(fdb(), Call::init, {}, nullptr);
+    history.callBegins(fdbManager(), Call::init, {}, nullptr);
     history.callEnds(static_cast<XP_STATUS>(i));
   }
-  history.callBegins(fdb(), Call::deInit, {}, nullptr);
+  history.callBegins(fdbManager(), Call::deInit, {}, nullptr);
   std::string const text = told(history);
   EXPECT_TRUE(text.starts_with("simulated SDK: the last 256 calls:\nxpFdbMgr[0]::init -> 45\n"));
   EXPECT_TRUE(text.ends_with("xpFdbMgr[0]::init -> 299\nxpFdbMgr[0]::deInit -> ?\n"));
@@ -212,7 +212,7 @@ TEST(HistoryLineTest, ShorterLineReplacesALongerOne) {
   History history;
   for (U32 i = 0; i <= History::room; ++i) {
     bool isLong = i == 0;
-    history.callBegins(fdb(), isLong ? Call::addTable : Call::init, {}, nullptr);
+    history.callBegins(fdbManager(), isLong ? Call::addTable : Call::init, {}, nullptr);
     history.callEnds(0);
   }
   EXPECT_EQ(history.last(), "xpFdbMgr[0]::init -> 0");
@@ -264,7 +264,7 @@ TEST(LastWordsTest, FormerHandlerHasItsTurn) {
       {
         std::signal(SIGABRT, ownHandler);
         Sim sim;
-        initEgress();
+        initEgressAcls();
         std::abort();
       },
       testing::ExitedWithCode(5),
@@ -277,7 +277,7 @@ TEST(LastWordsTest, IgnoredSignalEndsTheProcessByAbortAllTheSame) {
       [] {
         std::signal(SIGABRT, SIG_IGN);
         Sim sim;
-        initEgress();
+        initEgressAcls();
         fail();
       },
       "it failed\nsimulated SDK: the last call:\nxpEgressAclMgr::init -> 0\n");

@@ -12,7 +12,7 @@ namespace {
 Profile read(std::string const& text) { return readProfile(text, "lab.json"); }
 
 /// The complaint about `text`, or "none".
-std::string faultOf(std::string const& text) {
+std::string faultOfProfile(std::string const& text) {
   try {
     read(text);
   } catch (ProfileFault const& fault) {
@@ -171,7 +171,7 @@ TEST(ProfileReaderTest, FaultsOfTheRoot) {
        "lab.json: /coldStartNeeded: expected true or false, got null"},
       {R"({"deviceId": 0, "deviceId": 1})", "lab.json: /deviceId: stands twice"},
   };
-  for (auto [text, fault] : faults) EXPECT_EQ(faultOf(text), fault);
+  for (auto [text, fault] : faults) EXPECT_EQ(faultOfProfile(text), fault);
 }
 
 TEST(ProfileReaderTest, FaultsOfTreadPlans) {
@@ -192,7 +192,7 @@ TEST(ProfileReaderTest, FaultsOfTreadPlans) {
       {R"({"lpmTreadCfg": {"treadV6": {"0": 256}}})",
        "lab.json: /lpmTreadCfg/treadV6/0: 256 does not fit in 8 bits"},
   };
-  for (auto [text, fault] : faults) EXPECT_EQ(faultOf(text), fault);
+  for (auto [text, fault] : faults) EXPECT_EQ(faultOfProfile(text), fault);
 }
 
 TEST(ProfileReaderTest, FaultsOfTables) {
@@ -228,7 +228,7 @@ TEST(ProfileReaderTest, FaultsOfTables) {
       {R"({"tables": {"7": {"contexts": [{}, 5]}}})",
        "lab.json: /tables/7/contexts/1: expected an object, got 5"},
   };
-  for (auto [text, fault] : faults) EXPECT_EQ(faultOf(text), fault);
+  for (auto [text, fault] : faults) EXPECT_EQ(faultOfProfile(text), fault);
 }
 
 TEST(ProfileReaderTest, CopiesAreNumberedByAByte) {
@@ -237,8 +237,8 @@ TEST(ProfileReaderTest, CopiesAreNumberedByAByte) {
   auto const profile = [](std::string const& list) {
     return R"({"tables": {"7": {"contexts": [)" + list + "]}}}";
   };
-  EXPECT_EQ(faultOf(profile(contexts)), "none");
-  EXPECT_EQ(faultOf(profile(contexts + ",{}")),
+  EXPECT_EQ(faultOfProfile(profile(contexts)), "none");
+  EXPECT_EQ(faultOfProfile(profile(contexts + ",{}")),
             "lab.json: /tables/7/contexts: 257 elements, and room for 256");
 }
 
@@ -279,7 +279,7 @@ TEST(ProfileReaderTest, FaultsOfContexts) {
       {"9", R"({"numDb": 1})", "numDb: no such field"},
   };
   for (auto const& row : faults) {
-    EXPECT_EQ(faultOf(contextOf(row.type, row.context)),
+    EXPECT_EQ(faultOfProfile(contextOf(row.type, row.context)),
               std::string("lab.json: /tables/42/contexts/0/") + row.fault);
   }
 }
@@ -312,35 +312,40 @@ TEST(ProfileReaderTest, FaultsOfStatuses) {
        "lab.json: /sdkStatus/xpBdMgr::addDevice: an operation can't be null, only a manager: "
        "\"xpBdMgr::addDevice\""},
   };
-  for (auto [text, fault] : faults) EXPECT_EQ(faultOf(text), fault);
+  for (auto [text, fault] : faults) EXPECT_EQ(faultOfProfile(text), fault);
 }
 
 TEST(ProfileReaderTest, TextThatIsNoJsonIsNamedByLineAndColumn) {
-  EXPECT_TRUE(faultOf("").starts_with("lab.json:1:1: no valid JSON: ")) << faultOf("");
-  EXPECT_TRUE(faultOf("{").starts_with("lab.json:1:2: no valid JSON: ")) << faultOf("{");
-  EXPECT_TRUE(faultOf("{\n  \"a\": ?\n}").starts_with("lab.json:2:8: no valid JSON: "));
-  EXPECT_TRUE(faultOf("{} {}").starts_with("lab.json:1:4: no valid JSON: ")) << faultOf("{} {}");
-  EXPECT_TRUE(faultOf("{\"deviceId\": 01}").starts_with("lab.json:1:15: no valid JSON: "));
-  EXPECT_TRUE(faultOf("{\"deviceId\": 1e999}").starts_with("lab.json:1:18: no valid JSON: "));
-  EXPECT_TRUE(faultOf("// no\n{}").starts_with("lab.json:1:1: no valid JSON: "))
-      << faultOf("// no\n{}");
+  EXPECT_TRUE(faultOfProfile("").starts_with("lab.json:1:1: no valid JSON: "))
+      << faultOfProfile("");
+  EXPECT_TRUE(faultOfProfile("{").starts_with("lab.json:1:2: no valid JSON: "))
+      << faultOfProfile("{");
+  EXPECT_TRUE(faultOfProfile("{\n  \"a\": ?\n}").starts_with("lab.json:2:8: no valid JSON: "));
+  EXPECT_TRUE(faultOfProfile("{} {}").starts_with("lab.json:1:4: no valid JSON: "))
+      << faultOfProfile("{} {}");
+  EXPECT_TRUE(faultOfProfile("{\"deviceId\": 01}").starts_with("lab.json:1:15: no valid JSON: "));
+  EXPECT_TRUE(
+      faultOfProfile("{\"deviceId\": 1e999}").starts_with("lab.json:1:18: no valid JSON: "));
+  EXPECT_TRUE(faultOfProfile("// no\n{}").starts_with("lab.json:1:1: no valid JSON: "))
+      << faultOfProfile("// no\n{}");
 }
 
 TEST(ProfileReaderTest, ComplaintIsOneLineOfPrintableText) {
   for (std::string text : {"{\"a\nb\": 0}", "{\"\\n\\u0000\\u00e9\": 0}", "{\"deviceId\": \"\\n\"}",
                            "\xFF\xFE", "{\"a\xC3\": 0}", "{\"sdkStatus\": {\"x\\n\": 1}}"}) {
-    std::string fault = faultOf(text);
+    std::string fault = faultOfProfile(text);
     EXPECT_TRUE(fault.starts_with("lab.json:")) << fault;
     for (char c : fault) EXPECT_TRUE(c >= 0x20 && c < 0x7F) << fault;
   }
 }
 
 TEST(ProfileReaderTest, PathEscapesItsOwnSigns) {
-  EXPECT_EQ(faultOf(R"({"a/b~c\n": 0})"), "lab.json: /a~1b~0c\\x0A: no such key in a profile");
+  EXPECT_EQ(faultOfProfile(R"({"a/b~c\n": 0})"),
+            "lab.json: /a~1b~0c\\x0A: no such key in a profile");
 }
 
 TEST(ProfileReaderTest, LongTextIsCut) {
-  std::string fault = faultOf("{\"" + std::string(100000, 'a') + "\": 0}");
+  std::string fault = faultOfProfile("{\"" + std::string(100000, 'a') + "\": 0}");
   EXPECT_EQ(fault, "lab.json: /" + std::string(60, 'a') + "...: no such key in a profile");
 }
 
@@ -348,12 +353,13 @@ TEST(ProfileReaderTest, KeyIsFoundAgainAmongVeryMany) {
   std::string text = "{\"tables\": {\"0\": {";
   for (U32 i = 0; i < 200000; ++i) text += '"' + std::to_string(i) + "\": 0,";
   text += "\"0\": 0}}}";
-  EXPECT_EQ(faultOf(text), "lab.json: /tables/0/0: stands twice");
+  EXPECT_EQ(faultOfProfile(text), "lab.json: /tables/0/0: stands twice");
 }
 
 TEST(ProfileReaderTest, DepthHasALimit) {
   std::string deep = R"({"tables": )" + std::string(100000, '[');
-  EXPECT_TRUE(faultOf(deep).ends_with("/0: nested more than 16 deep")) << faultOf(deep);
+  EXPECT_TRUE(faultOfProfile(deep).ends_with("/0: nested more than 16 deep"))
+      << faultOfProfile(deep);
 }
 
 TEST(ProfileReaderTest, FileThatCannotBeReadIsNamed) {

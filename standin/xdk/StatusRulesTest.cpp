@@ -9,7 +9,7 @@ namespace {
 
 ManagerId lpm(U32 index) { return {managerOf("xpIpRouteLpmMgr"), index}; }
 
-std::string faultOf(RuleKey (*parse)(std::string_view), std::string_view key) {
+std::string faultOfKey(RuleKey (*parse)(std::string_view), std::string_view key) {
   try {
     parse(key);
   } catch (std::invalid_argument const& fault) {
@@ -125,13 +125,13 @@ TEST(StatusRulesTest, FaultsOfOperations) {
       {"xpFdbMgr[0] ::addDevice", "expected \"]\" at the end of \"xpFdbMgr[0] \""},
       {"xpFdbMgr[::addDevice", "expected \"]\" at the end of \"xpFdbMgr[\""},
   };
-  for (auto [key, fault] : faults) EXPECT_EQ(faultOf(operationKey, key), fault);
+  for (auto [key, fault] : faults) EXPECT_EQ(faultOfKey(operationKey, key), fault);
 }
 
 TEST(StatusRulesTest, FaultsOfManagers) {
-  EXPECT_EQ(faultOf(managerKey, "xpFooMgr"), "no manager class \"xpFooMgr\"");
-  EXPECT_EQ(faultOf(managerKey, "xpLanzMgr"), "xpLanzMgr is a singleton, and never null");
-  EXPECT_EQ(faultOf(managerKey, "xpFdbMgr::addDevice"),
+  EXPECT_EQ(faultOfKey(managerKey, "xpFooMgr"), "no manager class \"xpFooMgr\"");
+  EXPECT_EQ(faultOfKey(managerKey, "xpLanzMgr"), "xpLanzMgr is a singleton, and never null");
+  EXPECT_EQ(faultOfKey(managerKey, "xpFdbMgr::addDevice"),
             "an operation can't be null, only a manager: \"xpFdbMgr::addDevice\"");
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 using Doubts = std::vector<Doubt>;
 
-std::string text(U32 number) { return std::to_string(number); }
+std::string numberText(U32 number) { return std::to_string(number); }
 
 void checkWidth(Doubts& doubts, std::string const& field, U32 width) {
   if (!fitsRow(width))
@@ -31,7 +31,7 @@ void checkRun(Doubts& doubts, xpTableContext const& context, SramRun const& run)
   else if (isPast)
     doubts.push_back({start.name, start.value,
                       start.subject + " goes to block " + std::to_string(last) + ", and pool " +
-                          text(run.pool) + " has 0 to " + text(limit - 1)});
+                          numberText(run.pool) + " has 0 to " + numberText(limit - 1)});
   if (run.end() == 255)
     doubts.push_back({start.name, start.value,
                       start.subject + " ends at block 255, so that its count in 8 bits never ends",
@@ -64,10 +64,11 @@ void checkHashWidth(Doubts& doubts, xpHashTableContext const& context) {
     doubts.push_back({"keySize", 0, "and a valueSize of 0 are no width of an entry", Harm::noRow});
   else if (width > sramRowWidth && context.keySize != sramRowWidth)
     doubts.push_back({"keySize", context.keySize,
-                      "and a valueSize of " + text(context.valueSize) + wide, Harm::assertion});
+                      "and a valueSize of " + numberText(context.valueSize) + wide,
+                      Harm::assertion});
   else if (width > sramRowWidth && context.valueSize != sramRowWidth)
     doubts.push_back({"valueSize", context.valueSize,
-                      "and a keySize of " + text(context.keySize) + wide, Harm::assertion});
+                      "and a keySize of " + numberText(context.keySize) + wide, Harm::assertion});
 }
 
 // In the order of the reports: they divide by the ways, then look at the width, then go through
@@ -77,7 +78,7 @@ Doubts check(xpHashTableContext const& context) {
   Doubts doubts;
   if (context.numOfWays == 0)
     doubts.push_back(
-        {"numOfWays", 0, "ways for " + text(context.numOfEntries) + " entries", Harm::noWay});
+        {"numOfWays", 0, "ways for " + numberText(context.numOfEntries) + " entries", Harm::noWay});
   checkHashWidth(doubts, context);
   if (context.numOfWays > std::size(context.poolId))
     doubts.push_back({"numOfWays", context.numOfWays, "ways, and room for 8", Harm::pastArray});
@@ -103,12 +104,13 @@ Doubts check(xpNhTableContext const& context) {
   Doubts doubts;
   U32 const ways = numWays(context);
   if (ways == 0)
-    doubts.push_back(
-        {"poolBitmap", 0, "has no way for " + text(context.numEntries) + " entries", Harm::noWay});
+    doubts.push_back({"poolBitmap", 0,
+                      "has no way for " + numberText(context.numEntries) + " entries",
+                      Harm::noWay});
   if (context.poolBitmap >> sramPools != 0)
-    doubts.push_back(
-        {"poolBitmap", context.poolBitmap,
-         "has " + text(ways) + (ways == 1 ? " way" : " ways") + ", not all in the pools 0 to 7"});
+    doubts.push_back({"poolBitmap", context.poolBitmap,
+                      "has " + numberText(ways) + (ways == 1 ? " way" : " ways") +
+                          ", not all in the pools 0 to 7"});
   checkWidth(doubts, "entryWidth", context.entryWidth);
   checkBlocks(doubts, "numEntries", context.numEntries, sramRuns(context));
   checkRuns(doubts, context);
@@ -121,7 +123,7 @@ Doubts check(xpLpmTableContext const& context) {
   for (U32 slot = 0; slot < std::size(context.prefixTable); ++slot) {
     xpLpmPrefixTable const& table = context.prefixTable[slot];
     if (table.valid == 0) continue;
-    std::string const name = "prefixTable[" + text(slot) + "].";
+    std::string const name = "prefixTable[" + numberText(slot) + "].";
     checkWidth(doubts, name + "entryWidth", table.entryWidth);
     auto const run = std::ranges::find_if(runs, [slot](SramRun const& candidate) {
       return candidate.part == SramPart::prefixTable && candidate.number == slot;

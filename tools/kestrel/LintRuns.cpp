@@ -9,7 +9,7 @@ using namespace xdksim;
 
 namespace {
 
-std::string element(SramRun const& run) { return '[' + std::to_string(run.number) + ']'; }
+std::string slot(SramRun const& run) { return '[' + std::to_string(run.number) + ']'; }
 
 U32 tileBitmap(xpTableContext const& context, U32 pool) {
   auto const* const lpm = dynamic_cast<xpLpmTableContext const*>(&context);
@@ -26,9 +26,9 @@ RunField startField(xpTableContext const& context, SramRun const& run) {
       return {field, run.start, subject};
     case SramPart::way:
     case SramPart::poolWay:
-      return {field + element(run), run.start, subject};
+      return {field + slot(run), run.start, subject};
     case SramPart::prefixTable:
-      return {"prefixTable" + element(run) + '.' + field, run.start, subject};
+      return {"prefixTable" + slot(run) + '.' + field, run.start, subject};
     case SramPart::tile:
       break;
   }
@@ -41,9 +41,9 @@ std::string poolField(SramRun const& run) {
     case SramPart::all:
       return "poolId";
     case SramPart::way:
-      return "poolId" + element(run);
+      return "poolId" + slot(run);
     case SramPart::prefixTable:
-      return "prefixTable" + element(run) + ".poolId";
+      return "prefixTable" + slot(run) + ".poolId";
     case SramPart::poolWay:
       return "poolBitmap";
     case SramPart::tile:

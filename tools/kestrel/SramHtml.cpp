@@ -50,7 +50,7 @@ std::string svg(char const* style, U32 wide, U32 high, std::string const& conten
   return element("svg", {{"class", style}, {"width", wide}, {"height", high}}, content);
 }
 
-std::string legendLine(SramModel const& model, std::size_t group) {
+std::string legendEntry(SramModel const& model, std::size_t group) {
   return element(
              "li", {{"data-group", static_cast<U32>(group)}, {"tabindex", 0u}},
              svg("sram", 26, 13, sramSwatch(model, group, 26, 13)) +
@@ -62,7 +62,7 @@ std::string legendLine(SramModel const& model, std::size_t group) {
 std::string legend(SramModel const& model) {
   std::string lines = "\n";
   for (std::size_t group = 0; group < model.groups.size(); ++group)
-    lines += legendLine(model, group);
+    lines += legendEntry(model, group);
   return element("ul", {{"class", "legend"}}, lines);
 }
 

@@ -52,7 +52,7 @@ std::string legend(SramModel const& model, Legend const& places) {
   return lines;
 }
 
-std::string notes(std::vector<std::string> const& lines) {
+std::string drawnNotes(std::vector<std::string> const& lines) {
   if (lines.empty()) return "";
   U32 y = height + 20;
   std::string result = text("", 8, y, notesHead);
@@ -78,7 +78,7 @@ std::string sramSvg(SramModel const& model) {
       '\n' + element("style", {}, style) + '\n' +
       element("rect", {{"class", "paper"}, {"width", wide}, {"height", high}}) +
       text("title", 8, 26, "SRAM: " + sramSummary(model)) + '\n' +
-      moved(0, titleHeight, sramColumns(model) + legend(model, places) + notes(beyond)) + '\n';
+      moved(0, titleHeight, sramColumns(model) + legend(model, places) + drawnNotes(beyond)) + '\n';
   return element("svg",
                  {{"xmlns", "http://www.w3.org/2000/svg"},
                   {"class", "sram"},

@@ -9,11 +9,11 @@ namespace kestrel {
 
 namespace {
 
-std::string text(Mox::Name const& name) { return std::string(name.view()); }
+std::string nameText(Mox::Name const& name) { return std::string(name.view()); }
 
 std::optional<std::string> nameOf(Mox::MoxType const* type) {
   if (!type) return std::nullopt;
-  return text(type->fullTypeName());
+  return nameText(type->fullTypeName());
 }
 
 char const* kindOf(Mox::MoxType const& type) {
@@ -26,13 +26,13 @@ std::vector<ArgumentDump> dumpConstructor(Mox::MoxType const& type) {
   std::vector<ArgumentDump> arguments;
   auto const& types = type.constructorArgTypes();
   for (Mox::Name const& name : type.constructorArgNames())
-    arguments.push_back({text(name), text(types[arguments.size()])});
+    arguments.push_back({nameText(name), nameText(types[arguments.size()])});
   return arguments;
 }
 
 AttributeDump dumpAttribute(Mox::MoxAttr const& attribute) {
   return {attribute.id(),
-          text(attribute.name()),
+          nameText(attribute.name()),
           nameOf(attribute.type()).value_or(""),
           nameOf(attribute.keyType()),
           attribute.flags(),
@@ -52,8 +52,8 @@ std::vector<AttributeDump> dumpAttributes(Mox::MoxType const& type) {
 }
 
 TypeDump dumpType(Mox::MoxType const& type) {
-  return {text(type.fullTypeName()), kindOf(type),        nameOf(type.base()), type.size(),
-          dumpConstructor(type),     dumpAttributes(type)};
+  return {nameText(type.fullTypeName()), kindOf(type),        nameOf(type.base()), type.size(),
+          dumpConstructor(type),         dumpAttributes(type)};
 }
 
 ModuleDump dumpModule(char const* name, frame::Module const& module) {

@@ -8,11 +8,7 @@ namespace schemac {
 namespace {
 
 using story::errors;
-
-// The errors of `rows`, which stand from line 3 on in an entity with these parameters and options.
-std::string inEntity(std::string const& rows, std::string const& head = "(name Mox::Name)") {
-  return errors("entity X " + head + "\n" + rows + "\nend\n");
-}
+using story::inEntity;
 
 TEST(CheckerTest, ASoundSchemaHasNoErrors) {
   EXPECT_EQ(errors("enum Mood\n0 calm\n1 tense\nend\n"

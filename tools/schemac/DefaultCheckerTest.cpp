@@ -11,11 +11,10 @@ namespace schemac {
 
 namespace {
 
-std::filesystem::path const templates =
-    std::filesystem::path(KESTREL_SOURCE_DIR) / "tools" / "schemac" / "templates";
+using story::templates;
 
 // The words on `type = text`, a row of an entity that knows all built-in types.
-std::string fault(std::string const& type, std::string const& text) {
+std::string faultOfDefault(std::string const& type, std::string const& text) {
   Diagnostics diagnostics;
   Schema const schema = story::parsed(
       "module M\nnamespace A\nenum Mood\n0 calm\nend\n"
@@ -42,37 +41,38 @@ TEST(DefaultCheckerTest, AnIntegerHoldsItsDefault) {
            {"U6", "0", "63", "-1", "64"},
            {"U22", "0", "4194303", "-1", "4194304"}}) {
     std::string const outside = " is outside of " + least + " to " + most;
-    EXPECT_EQ(fault(type, least), "") << type;
-    EXPECT_EQ(fault(type, most), "") << type;
-    EXPECT_EQ(fault(type, below), quoted(below) + outside) << type;
-    EXPECT_EQ(fault(type, above), quoted(above) + outside) << type;
+    EXPECT_EQ(faultOfDefault(type, least), "") << type;
+    EXPECT_EQ(faultOfDefault(type, most), "") << type;
+    EXPECT_EQ(faultOfDefault(type, below), inQuotes(below) + outside) << type;
+    EXPECT_EQ(faultOfDefault(type, above), inQuotes(above) + outside) << type;
   }
-  EXPECT_EQ(fault("S32", "99999999999999999999"),
+  EXPECT_EQ(faultOfDefault("S32", "99999999999999999999"),
             "\"99999999999999999999\" is outside of -2147483648 to 2147483647");
 }
 
 TEST(DefaultCheckerTest, AnIntegerIsWrittenWithoutIdleZerosAndSigns) {
   for (std::string const text : {"1-2", "--", "-", "010", "0x10", "1.", "-0.5"})
-    EXPECT_EQ(fault("S32", text), "the default of an integer is a number, unlike " + quoted(text));
+    EXPECT_EQ(faultOfDefault("S32", text),
+              "the default of an integer is a number, unlike " + inQuotes(text));
 }
 
 TEST(DefaultCheckerTest, ADoubleIsADecimalNumber) {
   for (std::string const text : {"0", "-1.5", "2.5e-3", "1e300"})
-    EXPECT_EQ(fault("double", text), "");
+    EXPECT_EQ(faultOfDefault("double", text), "");
   for (std::string const text :
        {"abc", "1-2", "--", "inf", "nan", "1e999", "1e-999", "0x1", "1.2.3"})
-    EXPECT_EQ(fault("double", text),
-              "the default of a \"double\" is a number, unlike " + quoted(text));
+    EXPECT_EQ(faultOfDefault("double", text),
+              "the default of a \"double\" is a number, unlike " + inQuotes(text));
 }
 
 TEST(DefaultCheckerTest, AnEnumerationFromElsewhereTakesAName) {
-  EXPECT_EQ(fault("B::Far", "away"), "");
-  EXPECT_EQ(fault("B::Far", "1"), "\"1\" is no enumerator of \"Far\"");
+  EXPECT_EQ(faultOfDefault("B::Far", "away"), "");
+  EXPECT_EQ(faultOfDefault("B::Far", "1"), "\"1\" is no enumerator of \"Far\"");
 }
 
 TEST(DefaultCheckerTest, OtherTypesHaveNoDefaultButTheirOwn) {
-  EXPECT_EQ(fault("V", "1"), "\"V\" has no default but its own");
-  EXPECT_EQ(fault("VoidPtr", "0"), "\"VoidPtr\" has no default but its own");
+  EXPECT_EQ(faultOfDefault("V", "1"), "\"V\" has no default but its own");
+  EXPECT_EQ(faultOfDefault("VoidPtr", "0"), "\"VoidPtr\" has no default but its own");
 }
 
 TEST(DefaultCheckerTest, APointerHasNoDefault) {
@@ -95,7 +95,7 @@ std::string initialiser(std::string const& type, std::string const& text) {
 }
 
 TEST(DefaultCheckerTest, ADefaultTextIsALiteral) {
-  EXPECT_EQ(fault("Mox::String", "\"a \\\"b\\\"\""), "");
+  EXPECT_EQ(faultOfDefault("Mox::String", "\"a \\\"b\\\"\""), "");
   EXPECT_EQ(initialiser("Mox::String", "\"a \\\"b\\\"\""), "\"a \\\"b\\\"\"");
   EXPECT_EQ(initialiser("Mox::Name", "word"), "\"word\"");
 }
@@ -119,7 +119,7 @@ TEST(DefaultCheckerTest, TheRangeOfAnExternIsOne) {
   EXPECT_EQ(story::errors("extern primitive X range -2..2\n"), "");
   for (std::string const text : {"2", "2..-2", "..", "0..x"})
     EXPECT_EQ(story::errors("extern primitive X range " + text + "\n"),
-              "s:2:26: error: expected a range such as 0..127, found " + quoted(text) + "\n");
+              "s:2:26: error: expected a range such as 0..127, found " + inQuotes(text) + "\n");
 }
 
 }  // namespace

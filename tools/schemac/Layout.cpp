@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t longest = 100;
 
-std::size_t indentOf(std::string_view line) {
+std::size_t indentWidth(std::string_view line) {
   return std::min(line.find_first_not_of(' '), line.size());
 }
 
@@ -22,7 +22,7 @@ std::size_t breakBehind(std::string_view line, std::string_view marks) {
   int bestDepth = 0;
   int depth = 0;
   bool quotes = false;
-  for (std::size_t i = indentOf(line); i < std::min(line.size(), longest); ++i) {
+  for (std::size_t i = indentWidth(line); i < std::min(line.size(), longest); ++i) {
     char const c = line[i];
     if (c == '"' && line[i - 1] != '\\') quotes = !quotes;
     if (quotes) continue;
@@ -42,7 +42,7 @@ class Layout {
     std::istringstream lines(text);
     for (std::string line; std::getline(lines, line);) {
       bool blank = line.empty();
-      bool closing = line.substr(indentOf(line), 1) == "}" && line.rfind("}  //", 0) != 0;
+      bool closing = line.substr(indentWidth(line), 1) == "}" && line.rfind("}  //", 0) != 0;
       if (pendingBlank_ && !blank && !closing) out_ += "\n";
       pendingBlank_ = blank && !out_.empty();
       if (!blank) add(line);
@@ -66,7 +66,7 @@ class Layout {
     bool function = open < line.size() && line[open] == '{' && line.size() > open + 3 &&
                     line.compare(line.size() - 2, 2, " }") == 0;
     if (!function) return false;
-    std::string const indent(indentOf(line), ' ');
+    std::string const indent(indentWidth(line), ' ');
     add(line.substr(0, open + 1));
     add(indent + "  " + line.substr(open + 2, line.size() - open - 4));
     add(indent + "}");
@@ -74,7 +74,7 @@ class Layout {
   }
 
   void addBroken(std::string line) {
-    std::string const deeper(indentOf(line) + 4, ' ');
+    std::string const deeper(indentWidth(line) + 4, ' ');
     while (line.size() > longest) {
       std::size_t at = breakBehind(line, ",");
       if (at == 0) at = breakBehind(line, "({");

@@ -14,12 +14,12 @@ namespace {
 
 using Names = std::set<std::string>;
 
-std::filesystem::path const root = KESTREL_SOURCE_DIR;
+std::filesystem::path const checkout = KESTREL_SOURCE_DIR;
 
 // What is generated from `types`, without comments and texts.
 std::string codeOf(std::string const& types) {
   Diagnostics diagnostics;
-  Library const library = loadLibrary(root / "tools" / "schemac" / "templates");
+  Library const library = loadLibrary(checkout / "tools" / "schemac" / "templates");
   Schema const schema = parse("s", "module M\n" + types, diagnostics);
   EXPECT_EQ(diagnostics.text(), "");
   std::string code;
@@ -120,7 +120,7 @@ TEST(MadeNamesTest, APointerStaysOneInATag) {
 }
 
 std::string header(std::string const& name) {
-  return readFile(root / "platform" / "Mox" / name).value_or("");
+  return readFile(checkout / "platform" / "Mox" / name).value_or("");
 }
 
 TEST(MadeNamesTest, NoRowTakesAVirtualOperationOfTheRuntime) {

@@ -9,8 +9,7 @@ namespace schemac {
 
 namespace {
 
-std::filesystem::path const templates =
-    std::filesystem::path(KESTREL_SOURCE_DIR) / "tools" / "schemac" / "templates";
+using story::templates;
 
 // The page of module M with `source` in it, from "# Module M" on.
 std::string page(std::string const& source) {

@@ -8,11 +8,7 @@ namespace schemac {
 namespace {
 
 using story::errors;
-
-// The errors of `rows`, which stand from line 3 on in an entity.
-std::string inEntity(std::string const& rows) {
-  return errors("entity X (name Mox::Name)\n" + rows + "\nend\n");
-}
+using story::inEntity;
 
 TEST(NameCheckerTest, NoTwoRowsMakeOneName) {
   EXPECT_EQ(inEntity("258 scalar a U8\n259 scalar aIs U8"),

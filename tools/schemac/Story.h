@@ -5,9 +5,14 @@
 #include "tools/schemac/Parser.h"
 #include "tools/schemac/Renderer.h"
 
+#include <filesystem>
 #include <string>
 
 namespace schemac::story {
+
+/// The folder of the real templates.
+inline std::filesystem::path const templates =
+    std::filesystem::path(KESTREL_SOURCE_DIR) / "tools" / "schemac" / "templates";
 
 /// A few types that every schema of a story knows.
 inline Schema builtin() {
@@ -53,6 +58,11 @@ inline std::string errors(std::string const& source) {
   std::vector<Schema> const schemas = {parse("s", "module M\n" + source, diagnostics)};
   if (!diagnostics.failed()) check(builtin(), schemas, diagnostics);
   return diagnostics.text();
+}
+
+/// The errors of `rows`, which stand from line 3 on in an entity with these parameters and options.
+inline std::string inEntity(std::string const& rows, std::string const& head = "(name Mox::Name)") {
+  return errors("entity X " + head + "\n" + rows + "\nend\n");
 }
 
 /// What `source`, a template, makes of `scope`, with the parts in `library`; or the error.

@@ -8,7 +8,7 @@ namespace schemac {
 
 namespace {
 
-std::vector<std::string> wordsOf(std::string_view text) {
+std::vector<std::string> wordsIn(std::string_view text) {
   std::istringstream in{std::string(text)};
   std::vector<std::string> result;
   for (std::string word; in >> word;) result.push_back(word);
@@ -42,7 +42,7 @@ std::vector<Piece> inlinePieces(std::string_view line, Position at) {
     if (inner.empty())
       result.push_back({true, "$", {}, false, at});
     else
-      result.push_back({false, "", wordsOf(inner), false, at});
+      result.push_back({false, "", wordsIn(inner), false, at});
     line.remove_prefix(close + 1);
     at.column += close + 1;
   }
@@ -182,7 +182,7 @@ Nodes parseTemplate(std::string_view source, Position at) {
 std::vector<std::string> directiveOf(std::string_view line) {
   std::string_view rest = line.substr(indentOf(line).size());
   if (rest.substr(0, 1) != "@") return {};
-  return wordsOf(rest.substr(1));
+  return wordsIn(rest.substr(1));
 }
 
 }  // namespace schemac
