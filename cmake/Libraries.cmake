@@ -40,3 +40,5 @@ kestrel_precompile_runtime(KestrelTypes)
 set_target_properties(KestrelTypes PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 1)
 # Descriptors are immortal, so what they point into must be.
 target_link_options(KestrelTypes PRIVATE -Wl,-z,nodelete)
+
+kestrel_together(Mox Xdk engines KestrelTypes)

@@ -9,8 +9,8 @@ set(main_source ${sources})
 list(FILTER main_source INCLUDE REGEX "/main\\.cpp$")
 list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
 kestrel_library(kestrel_parts STATIC SOURCES ${sources} LINK KestrelTypes)
-set_property(SOURCE "${PROJECT_SOURCE_DIR}/tools/kestrel/CommandLine.cpp" APPEND PROPERTY
-  COMPILE_DEFINITIONS "KESTREL_VERSION=\"${PROJECT_VERSION}\"")
+target_compile_definitions(kestrel_parts PRIVATE "KESTREL_VERSION=\"${PROJECT_VERSION}\"")
+kestrel_together(kestrel_parts)
 kestrel_program(kestrel SOURCES ${main_source} LINK kestrel_parts)
 
 # One program a file: example_<file>.

@@ -7,7 +7,8 @@ set(schemac_program "${CMAKE_BINARY_DIR}/bin/schemac")
 set(schemac_templates "${PROJECT_SOURCE_DIR}/tools/schemac/templates")
 set(schemac_configure "${CMAKE_COMMAND}" -S "${PROJECT_SOURCE_DIR}/tools/schemac"
   -B "${CMAKE_BINARY_DIR}/native" -G "${CMAKE_GENERATOR}"
-  "-DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER}"
+  "-DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER}" "-DCMAKE_UNITY_BUILD=${KESTREL_TOGETHER}"
+  -DCMAKE_UNITY_BUILD_BATCH_SIZE=13
   "-DCMAKE_RUNTIME_OUTPUT_DIRECTORY=${CMAKE_BINARY_DIR}/bin")
 set(schemac_build "${CMAKE_COMMAND}" --build "${CMAKE_BINARY_DIR}/native" --target schemac)
 
@@ -55,19 +56,6 @@ function(kestrel_generate_nothing out name problem)
     COMMAND "${CMAKE_COMMAND}" -E false
     COMMENT "Generating ${name}" VERBATIM)
   set(${out} "${source}" PARENT_SCOPE)
-endfunction()
-
-# Has the sources of access by number compiled several at a time: they are short and many, and all
-# of them begin with the same templates.
-function(kestrel_compile_together name)
-  set(sources ${ARGN})
-  list(FILTER sources INCLUDE REGEX "\\.reflect\\.cpp$")
-  set(number 0)
-  foreach(source IN LISTS sources)
-    math(EXPR group "${number} / 8")
-    set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${name}${group}")
-    math(EXPR number "${number} + 1")
-  endforeach()
 endfunction()
 
 # Generates code from the schemas SCHEMAS and those below FOLDERS, and sets `out` to the sources
@@ -126,7 +114,10 @@ function(kestrel_generate out)
     set_property(GLOBAL APPEND PROPERTY kestrel_generated_stamps "${stamp}")
   endif()
   list(FILTER files INCLUDE REGEX "\\.cpp$")
-  kestrel_compile_together(${arg_NAME} ${files})
+  # Sources of access by number are short and many, and all of them begin with the same templates.
+  set(short_sources ${files})
+  list(FILTER short_sources INCLUDE REGEX "\\.reflect\\.cpp$")
+  kestrel_group(${arg_NAME}Reflect 8 ${short_sources})
   # The stamp is among the sources to make the whole of the files come before what includes them.
   set(${out} "${stamp}" ${files} PARENT_SCOPE)
 endfunction()

@@ -44,6 +44,34 @@ function(kestrel_precompile_runtime name)
   endif()
 endfunction()
 
+# Has the sources compiled `count` at a time, as one text each; `name` is that of the groups.
+function(kestrel_group name count)
+  set(number 0)
+  foreach(source IN LISTS ARGN)
+    math(EXPR group "${number} / ${count}")
+    set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${name}${group}")
+    math(EXPR number "${number} + 1")
+  endforeach()
+endfunction()
+
+# Lets KESTREL_TOGETHER compile the hand-written sources of the targets together: most of what a file
+# costs is what it shares with its neighbours.  So what stands in unnamed namespaces has names of its
+# own among them, and where KESTREL_TOGETHER is off, as in `release`, each file still has to include
+# what it needs.
+function(kestrel_together)
+  if(NOT KESTREL_TOGETHER)
+    return()
+  endif()
+  foreach(name IN LISTS ARGN)
+    if(TARGET ${name})
+      set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+      get_target_property(sources ${name} SOURCES)
+      list(FILTER sources EXCLUDE REGEX "^${CMAKE_BINARY_DIR}/")
+      kestrel_group(${name} 16 ${sources})
+    endif()
+  endforeach()
+endfunction()
+
 # Makes program `name` from SOURCES, linked with LINK; without any source there is none.
 function(kestrel_program name)
   cmake_parse_arguments(program "" "" "SOURCES;LINK" ${ARGN})

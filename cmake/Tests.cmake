@@ -138,6 +138,10 @@ if(KESTREL_BITS EQUAL 64)
   endif()
 endif()
 
+# Not the tests of the runtime and of the model: they name their own small entities alike.
+kestrel_together(xdk_tests frame_tests xplib_tests kestrel_tests tool_tests schemac_parts
+  schemac_tests)
+
 if(KESTREL_HOUSE_TESTS OR KESTREL_ALL_TESTS)
   kestrel_tests(house_tests FOLDERS tests/house)
 endif()
