@@ -69,7 +69,7 @@ TEST_F(AdapterTest, StartsActiveRegisteredAndWeakWithOutboundEnabled) {
   EXPECT_TRUE(adapter().hasNotificationActive());
   EXPECT_TRUE(adapter().isRegisteredNotifiee());
   EXPECT_TRUE(adapter().isWeakReference());
-  EXPECT_EQ(adapter().mox_bitSet().bits(), frame::outboundEnabled);
+  EXPECT_EQ(adapter().mox_bitSet().bits(), Mox::outboundEnabled);
   EXPECT_EQ(adapter().moxNotifier(), entity.ptr());
 }
 
@@ -110,14 +110,14 @@ TEST_F(AdapterTest, SwitchingOnRestoresWhatWasRegistered) {
 }
 
 TEST_F(AdapterTest, RemembersByABitThatTouchesNoOther) {
-  adapter().mox_bitSetIs(Mox_BitSet(frame::outboundEnabled | 0x10));
+  adapter().mox_bitSetIs(Mox_BitSet(Mox::outboundEnabled | 0x10));
   adapter().hasNotificationActiveIs(false);
   EXPECT_EQ(adapter().mox_bitSet().bits(),
-            frame::outboundEnabled | 0x10 | frame::registeredWhenDeactivated);
+            Mox::outboundEnabled | 0x10 | Mox::registeredWhenDeactivated);
   adapter().hasNotificationActiveIs(true);
   adapter().isRegisteredNotifieeIs(false);
   adapter().hasNotificationActiveIs(false);
-  EXPECT_EQ(adapter().mox_bitSet().bits(), frame::outboundEnabled | 0x10);
+  EXPECT_EQ(adapter().mox_bitSet().bits(), Mox::outboundEnabled | 0x10);
 }
 
 TEST_F(AdapterTest, SwitchingTwiceActsOnce) {
@@ -126,7 +126,7 @@ TEST_F(AdapterTest, SwitchingTwiceActsOnce) {
   adapter().hasNotificationActiveIs(false);
   adapter().hasNotificationActiveIs(false);
   EXPECT_EQ(owner->take(), "off;");
-  EXPECT_TRUE(adapter().mox_bitSet().has(frame::registeredWhenDeactivated))
+  EXPECT_TRUE(adapter().mox_bitSet().has(Mox::registeredWhenDeactivated))
       << "the second time would have forgotten it";
 }
 
