@@ -14,10 +14,10 @@ using Kestrel::xpTableCliHelper::EntryPtr;
 using BlocksByPool = std::map<U32, std::set<U32>>;
 
 /// The model of a chip whose tables are named "T<id>".
-class Chip {
+class Tables {
  public:
   /// Adds a table, a copy for each of the runs; a run is of whole blocks.
-  Chip& with(U32 id, std::vector<xpDirectTableContext> const& runs) {
+  Tables& with(U32 id, std::vector<xpDirectTableContext> const& runs) {
     tables_.push_back(Kestrel::xpTableCliHelper::table(id, Mox::format("T%u", id).charPtr(), runs));
     return *this;
   }
@@ -41,7 +41,7 @@ std::string letterAt(SramModel const& model, U32 pool, U32 block) {
 }
 
 TEST(SramModelTest, EmptyChipIsFree) {
-  SramModel const model = Chip().model();
+  SramModel const model = Tables().model();
   EXPECT_EQ(model.blocks(), 4 * 48u + 4 * 64u);
   EXPECT_EQ(model.free(), model.blocks());
   EXPECT_TRUE(model.groups.empty());
@@ -50,7 +50,7 @@ TEST(SramModelTest, EmptyChipIsFree) {
 }
 
 TEST(SramModelTest, LettersGoLineByLineAndByPoolWithin) {
-  SramModel const model = Chip()
+  SramModel const model = Tables()
                               .with(1, {blocks(0, 1, 1)})
                               .with(2, {blocks(7, 0, 1), blocks(1, 1, 1)})
                               .with(3, {blocks(6, 0, 1)})
@@ -60,7 +60,7 @@ TEST(SramModelTest, LettersGoLineByLineAndByPoolWithin) {
 }
 
 TEST(SramModelTest, GroupIsASetOfTables) {
-  SramModel const model = Chip().with(1, {blocks(0, 0, 3)}).with(2, {blocks(0, 1, 3)}).model();
+  SramModel const model = Tables().with(1, {blocks(0, 0, 3)}).with(2, {blocks(0, 1, 3)}).model();
   EXPECT_EQ(legend(model), "A=T1 B=T2 + T1 C=T2");
   EXPECT_EQ(model.groups[1].blocks, 2u);
   EXPECT_EQ(letterAt(model, 0, 2), "B");
@@ -68,7 +68,7 @@ TEST(SramModelTest, GroupIsASetOfTables) {
 
 TEST(SramModelTest, FreeBlocksAreCounted) {
   SramModel const model =
-      Chip().with(1, {blocks(0, 0, 1), blocks(0, 5, 1), blocks(4, 63, 1)}).model();
+      Tables().with(1, {blocks(0, 0, 1), blocks(0, 5, 1), blocks(4, 63, 1)}).model();
   EXPECT_EQ(model.pools[0].free(), 46u);
   EXPECT_EQ(model.pools[4].free(), 63u);
   EXPECT_EQ(model.free(), model.blocks() - 3);
@@ -76,7 +76,7 @@ TEST(SramModelTest, FreeBlocksAreCounted) {
 }
 
 TEST(SramModelTest, BlocksBeyondAPoolAreKeptApart) {
-  SramModel const model = Chip()
+  SramModel const model = Tables()
                               .with(1, {blocks(9, 3, 1), blocks(0, 47, 2), blocks(9, 3, 1)})
                               .with(2, {blocks(0, 49, 1), blocks(5, 0, 1)})
                               .with(3, {blocks(4, 60, 4)})
@@ -92,7 +92,7 @@ TEST(SramModelTest, BlocksBeyondAPoolAreKeptApart) {
 
 TEST(SramModelTest, RunThatEndsBelowItsStartTakesNothing) {
   SramModel const model =
-      Chip().with(1, {blocks(0, 8, 0), blocks(1, 250, 16), blocks(9, 8, 0)}).model();
+      Tables().with(1, {blocks(0, 8, 0), blocks(1, 250, 16), blocks(9, 8, 0)}).model();
   EXPECT_EQ(model.free(), model.blocks());
   EXPECT_TRUE(model.beyond.empty());
 }
@@ -105,11 +105,11 @@ TEST(SramModelTest, LettersNeverEnd) {
 }
 
 TEST(SramModelTest, EveryBlockMayHaveAGroupOfItsOwn) {
-  Chip chip;
+  Tables tables;
   for (U32 pool = 0; pool < 8; ++pool)
     for (U32 block = 0; block < Kestrel::xpTableCliHelper::blocksOfPool(pool); ++block)
-      chip.with(64 * pool + block, {blocks(pool, block, 1)});
-  SramModel const model = chip.model();
+      tables.with(64 * pool + block, {blocks(pool, block, 1)});
+  SramModel const model = tables.model();
   ASSERT_EQ(model.groups.size(), 448u);
   std::set<std::string> letters;
   for (SramGroup const& group : model.groups) letters.insert(group.letter);

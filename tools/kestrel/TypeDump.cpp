@@ -11,7 +11,7 @@ namespace {
 
 std::string nameText(Mox::Name const& name) { return std::string(name.view()); }
 
-std::optional<std::string> nameOf(Mox::MoxType const* type) {
+std::optional<std::string> typeName(Mox::MoxType const* type) {
   if (!type) return std::nullopt;
   return nameText(type->fullTypeName());
 }
@@ -33,8 +33,8 @@ std::vector<ArgumentDump> dumpConstructor(Mox::MoxType const& type) {
 AttributeDump dumpAttribute(Mox::MoxAttr const& attribute) {
   return {attribute.id(),
           nameText(attribute.name()),
-          nameOf(attribute.type()).value_or(""),
-          nameOf(attribute.keyType()),
+          typeName(attribute.type()).value_or(""),
+          typeName(attribute.keyType()),
           attribute.flags(),
           attribute.introspectionFlags()};
 }
@@ -52,7 +52,7 @@ std::vector<AttributeDump> dumpAttributes(Mox::MoxType const& type) {
 }
 
 TypeDump dumpType(Mox::MoxType const& type) {
-  return {nameText(type.fullTypeName()), kindOf(type),        nameOf(type.base()), type.size(),
+  return {nameText(type.fullTypeName()), kindOf(type),        typeName(type.base()), type.size(),
           dumpConstructor(type),         dumpAttributes(type)};
 }
 
