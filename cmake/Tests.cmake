@@ -24,11 +24,9 @@ target_compile_options(gtest PRIVATE -O0 -g0 $<$<CONFIG:Asan>:-fno-sanitize=all>
 # What each test sees; in one place, because a shared precompiled header asks for equal options.
 add_library(testing INTERFACE)
 target_link_libraries(testing INTERFACE gtest house)
-# The tests' own text is optimised where the benches stand too, in `release`; elsewhere it takes
-# longer to optimise than to run.
-if(NOT KESTREL_BENCH)
-  target_compile_options(testing INTERFACE -O0)
-endif()
+# What is tested is optimised as the preset says; the tests' own text takes longer to optimise than to
+# run.
+target_compile_options(testing INTERFACE -O0)
 target_compile_definitions(testing INTERFACE
   "KESTREL_SOURCE_DIR=\"${PROJECT_SOURCE_DIR}\"" "KESTREL_BINARY_DIR=\"${CMAKE_BINARY_DIR}\"")
 
