@@ -43,10 +43,10 @@ void forEachAttribute(MoxType const& type, std::function<void(Mox::MoxAttr const
   }
 }
 
-TEST(EveryTypeByNumberTest, EveryTypeHasAnInterface) {
-  EXPECT_EQ(forEachType([](MoxType const&) { return true; },
-                        [](MoxType const& type) { EXPECT_TRUE(type.hasGenericIfSupport()); }),
-            45);
+TEST(EveryTypeByNumberTest, EveryTypeButTheBareObjectSaysThatItHasAnInterface) {
+  int const met = forEachType([](MoxType const& type) { return type.hasGenericIfSupport(); },
+                              [](MoxType const& type) { EXPECT_NE(nameOf(type), "TableManSm"); });
+  EXPECT_EQ(met, 44);
 }
 
 TEST(EveryTypeByNumberTest, EveryNumberOfADescriptorIsServed) {
@@ -68,7 +68,7 @@ TEST(EveryTypeByNumberTest, EveryNumberOfADescriptorIsServed) {
       }
     });
   });
-  EXPECT_EQ(met, 30);
+  EXPECT_EQ(met, 29);
 }
 
 TEST(EveryTypeByNumberTest, EveryNameLeadsToItsNumber) {
