@@ -3,6 +3,7 @@
 
 #include "standin/xdk/ProfileWriter.h"
 #include "tools/kestrel/BringUp.h"
+#include "tools/kestrel/Completion.h"
 #include "tools/kestrel/Demo.h"
 #include "tools/kestrel/PrintLint.h"
 #include "tools/kestrel/RequestedChip.h"
@@ -65,6 +66,16 @@ ExitStatus types(Request const& request, std::ostream& out) {
     printTypesAsJson(out);
   else
     printTypes(out);
+  return success;
+}
+
+ExitStatus complete(Request const& request, std::ostream& out) {
+  for (std::string const& word : completionsOf(request.words)) out << word << '\n';
+  return success;
+}
+
+ExitStatus completion(Request const&, std::ostream& out) {
+  out << bashCompletion;
   return success;
 }
 

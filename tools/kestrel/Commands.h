@@ -37,12 +37,13 @@ struct Request {
   std::string path = "/";          ///< into the model
   std::string value;               ///< a text to be set
   std::string operation;           ///< to be called
-  std::vector<std::string> words;  ///< its arguments; paths to be watched
+  std::vector<std::string> words;  ///< its arguments; paths to be watched; what is to be completed
   bool log = false;                ///< show the calls of the SDK
-  std::optional<U32> depth;        ///< levels of a tree
-  std::optional<U32> seed;         ///< of what happens
-  std::optional<U32> steps;        ///< how much happens
-  bool batch = false;              ///< tell of it in batches
+  std::string shell;
+  std::optional<U32> depth;  ///< levels of a tree
+  std::optional<U32> seed;   ///< of what happens
+  std::optional<U32> steps;  ///< how much happens
+  bool batch = false;        ///< tell of it in batches
 };
 
 ExitStatus demo(Request const& request, std::ostream& out);
@@ -70,6 +71,10 @@ ExitStatus set(Request const& request, std::ostream& out);
 ExitStatus tree(Request const& request, std::ostream& out);
 /// Prints the result, behind the calls of the SDK where these are asked for.
 ExitStatus call(Request const& request, std::ostream& out);
+/// Prints what can stand in the place of the last word, a line each.
+ExitStatus complete(Request const& request, std::ostream& out);
+/// Prints a script for the shell.
+ExitStatus completion(Request const& request, std::ostream& out);
 /// Prints what changes while things happen in the hardware.
 ExitStatus watch(Request const& request, std::ostream& out);
 

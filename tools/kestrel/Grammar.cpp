@@ -227,6 +227,21 @@ void addWatch(CLI::App& app, Request& request) {
   addChip(command, request);
 }
 
+void addCompletion(CLI::App& app, Request& request) {
+  addCommand(app, "completion", "Print a script that makes a shell complete this tool's commands",
+             request, completion)
+      .add_option("SHELL", request.shell, "bash")
+      ->required()
+      ->type_name("")
+      ->check(CLI::IsMember({"bash"}).description(""));
+
+  // For that script.
+  CLI::App& asked = addCommand(
+      app, "complete", "Print what can stand in the place of the last word", request, complete);
+  asked.group("");
+  asked.add_option("WORDS", request.words, "A command line behind the tool's name")->type_name("");
+}
+
 }  // namespace
 
 void addCommands(CLI::App& app, Request& request) {
@@ -245,6 +260,7 @@ void addCommands(CLI::App& app, Request& request) {
   addJson(addCommand(app, "types", "Print the types of the library's modules, by their descriptors",
                      request, types),
           request);
+  addCompletion(app, request);
 }
 
 }  // namespace kestrel

@@ -62,13 +62,6 @@ GenericIf::Ptr handedOver(Arguments const& arguments) {
   return list;
 }
 
-std::vector<std::string> operationsOf(MoxType const& type) {
-  std::vector<std::string> names;
-  for (MoxAttr const* const attribute : attributesOf(type))
-    if (isOperation(*attribute)) names.push_back(nameOf(*attribute));
-  return names;
-}
-
 }  // namespace
 
 std::vector<Parameter> parametersOf(MoxAttr const& operation) {
@@ -79,6 +72,13 @@ std::vector<Parameter> parametersOf(MoxAttr const& operation) {
     parameters.push_back({textOf(name.stringValue()), type, descriptorOf(type)});
   }
   return parameters;
+}
+
+std::vector<std::string> operationsOf(MoxType const& type) {
+  std::vector<std::string> names;
+  for (MoxAttr const* const attribute : attributesOf(type))
+    if (isOperation(*attribute)) names.push_back(nameOf(*attribute));
+  return names;
 }
 
 MoxAttr const& operationAt(Place const& place, std::string const& name) {

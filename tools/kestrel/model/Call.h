@@ -14,6 +14,9 @@ struct Parameter {
 
 std::vector<Parameter> parametersOf(MoxAttr const& operation);
 
+/// The names of a type's operations, in their order.
+std::vector<std::string> operationsOf(MoxType const& type);
+
 /// The operation of that name at a place.  Throws `UsageFault`, with those that there are, where
 /// there is none.
 MoxAttr const& operationAt(Place const& place, std::string const& name);
