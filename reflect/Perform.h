@@ -17,12 +17,10 @@ GenericIf::Ptr performOther(Row const& row, Target const& target, GenericIf::OpI
 /// there are several; one that is missing raises `TypeException` with its name.
 // Inline is what is asked most: to read and write a scalar.
 inline GenericIf::Ptr perform(Row const& row, Target const& target, GenericIf::OpId op,
-                              GenericIf::PtrConst const& index,
-                              GenericIf::PtrConst const& value) {
+                              GenericIf::PtrConst const& index, GenericIf::PtrConst const& value) {
   if (index) [[unlikely]]
     return performOther(row, target, op, index, value);
-  if (op == GenericIf::opRead && row.read)
-    return row.read(target.object, target.isConst, row.type);
+  if (op == GenericIf::opRead && row.read) return row.read(target.object, target.isConst, row.type);
   if (op == GenericIf::opWrite && row.write) {
     row.write(target.object, GenericIf::requireHeld(value, row.type(), row.name));
     return nullptr;
