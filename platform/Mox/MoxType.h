@@ -37,6 +37,12 @@ class MoxAttr : public Entity {
   /// The attribute of the element that gives its key; empty where the key stands apart.
   Name const& keyAttr() const noexcept { return keyAttr_; }
   AttrFlags flags() const noexcept { return flags_; }
+  /// Whether what it holds is made and owned by the entity.
+  bool isInstantiating() const noexcept { return (flags_.second & 0x10000000) != 0; }
+  /// Whether it is called, not read.
+  bool isOperation() const noexcept {
+    return introspectionFlags_ == 8 && (flags_.first & ~U32{1}) == 0x20000;
+  }
   AttributeId id() const noexcept { return id_; }
   U32 introspectionFlags() const noexcept { return introspectionFlags_; }
   void introspectionFlagsIs(U32 flags) noexcept { introspectionFlags_ = flags; }
@@ -136,6 +142,10 @@ class MoxType : public MoxAttr {
   /// The same from a text form: a value's own, an entity's reference (Strep.h).  Raises
   /// `RangeException` for a text that isn't one, and `TypeException` for an entity of another type.
   virtual Ptr<GenericIf> genericIf(String8 const& text, bool isConst) const;
+  /// A literal is a text, and no address of a value.
+  Ptr<GenericIf> genericIf(char const* text, bool isConst) const {
+    return genericIf(String8(text), isConst);
+  }
   /// The interface of an object or entity of this type; null gives one of no entity.  Raises
   /// `TypeException` for one of another type.
   virtual Ptr<GenericIf> genericIf_(PtrInterface* object, bool isConst) const;

@@ -38,12 +38,11 @@ void searchChild(GenericIf::Ptr const& child, std::string_view path, Wanted cons
 }
 
 void searchChildren(Entity& entity, std::string_view path, Wanted const& wanted, Found& found) {
-  constexpr U32 instantiating = 0x10000000;
   if (!entity.fwkType()->hasGenericIfSupport()) return;
   auto const face = entity.fwkType()->genericIf_(&entity, true);
   for (auto const& entry : entity.fwkType()->attributeQ()) {
     MoxAttr const& attribute = *entry.value();
-    if ((attribute.flags().second & instantiating) == 0) continue;
+    if (!attribute.isInstantiating()) continue;
     if (!attribute.keyType()) {
       searchChild(face->attributeOp({attribute.id()}), path, wanted, found);
       continue;
