@@ -7,6 +7,7 @@
 #   clang   the second compiler
 #   check   the formatter
 #   bench   Google Benchmark and the peers that the benches compare with
+#   peers   further peers of the benches, which are large
 #   tidy    the linter
 #   browser what the tool's pictures are tested in
 # Where all are installed it does nothing.  As root on Debian it installs what is missing; anybody
@@ -19,6 +20,7 @@ declare -A packages=(
   [clang]="clang"
   [check]="clang-format-14"
   [bench]="libbenchmark-dev libboost-dev libsigc++-2.0-dev libabsl-dev"
+  [peers]="librttr-dev qt6-base-dev"
   [tidy]="clang-tidy-14"
   [browser]="chromium fonts-dejavu-core"
 )
@@ -32,7 +34,7 @@ for group in "$@"; do
   read -ra names <<<"${packages[$group]}"
   wanted+=("${names[@]}")
 done
-[ ${#wanted[@]} -gt 0 ] || { sed -n '4,14s/^# \?//p' "$0"; exit 2; }
+[ ${#wanted[@]} -gt 0 ] || { sed -n '4,15s/^# \?//p' "$0"; exit 2; }
 
 if ! command -v dpkg-query >/dev/null; then
   echo "This is no Debian system.  Needed are what Debian calls: ${wanted[*]}" >&2

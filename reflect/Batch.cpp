@@ -1,6 +1,8 @@
 // Changes of an entity as its interface tells them.
 #include "reflect/Batch.h"
 
+#include "Mox/Flagged.h"
+
 namespace reflect {
 
 namespace {
@@ -26,7 +28,7 @@ Told const* find(std::span<Told const> own, S32 id) {
 void handleNotification(Face& face, std::span<Told const> own, BaseHandler base,
                         Mox::ActivityConfig* activity) {
   S32 const noted = face.notification();
-  Face::Telling const telling(face);
+  Mox::Flagged const telling(face.moxTelling());
   if (Told const* const attribute = noted >= 0 ? find(own, noted) : nullptr) {
     face.notificationIs(Face::nothing);
     return tell(face, *attribute);

@@ -53,8 +53,8 @@ struct Row {
   std::span<Argument const> arguments = {};
 };
 
-/// The attribute of that number; null where there is none.  A table begins with its densest run,
-/// in which the place tells.
+/// The attribute of that number; null where there is none.  Numbers mostly follow each other from
+/// the first row on, so that the place tells.
 inline Row const* rowOf(std::span<Row const> rows, Mox::AttributeId id) {
   std::size_t const place = id - rows.front().id;
   if (place < rows.size() && rows[place].id == id) [[likely]]

@@ -13,11 +13,13 @@ namespace Mox {
 class ActivitySm : public PtrInterface {
  public:
   explicit ActivitySm(ActivityConfig* config) : config_(config) {}
+  /// The activity has gone: who waits is run with null in its place.
+  void configGone() noexcept { config_ = nullptr; }
 
   /// Enters a notifiee behind the others; it is held until it has run.
   void enq(Ptr<PtrInterface::NotifieeConst> const& notifiee);
-  /// Runs the first one's `handleNotification`; false, and nothing done, with none left.  One that
-  /// nobody else holds any more is dropped.  What it raises ends in its
+  /// Runs the first one's `handleNotification`; those that nobody else holds any more are dropped
+  /// unrun.  False, and nothing run, with none left.  What it raises ends in its
   /// `onNotificationException()`.
   bool runOne();
   /// Runs until none is left, also of those that come meanwhile, and tells how many ran.
@@ -29,7 +31,10 @@ class ActivitySm : public PtrInterface {
   U32 waiting() const noexcept { return static_cast<U32>(queue_.size()); }
 
  private:
-  ActivityConfig* config_;  // owns this
+  // The first one that somebody else holds, taken out; null where there is none.
+  Ptr<PtrInterface::NotifieeConst> next();
+
+  ActivityConfig* config_;  // owns this, or has gone and left null
   std::deque<Ptr<PtrInterface::NotifieeConst>> queue_;
   bool yielding_ = false;
 };
@@ -38,6 +43,7 @@ class ActivitySm : public PtrInterface {
 class ActivityConfig : public PtrInterface {
  public:
   explicit ActivityConfig(Name const& name) : name_(name), activitySm_(new ActivitySm(this)) {}
+  ~ActivityConfig() override { activitySm_->configGone(); }
 
   Name const& name() const noexcept { return name_; }
   ActivitySm* activitySm() const noexcept { return activitySm_.ptr(); }

@@ -9,9 +9,11 @@ namespace Mox {
 
 class MoxType;
 
-/// The interface of one value, enumerator, object or entity.  A value's holds a copy of it, an
-/// object's a reference, an entity's neither keeps the entity alive nor outlives its use: once the
-/// entity has gone, operations on it raise `RangeException`.
+/// The interface, in names the `face`, of one value, enumerator, object or entity.
+///
+/// A value's interface holds a copy of the value, an object's holds the object.  An entity's
+/// doesn't keep the entity alive: once that has gone, `RangeException` "null <type>" is raised by
+/// what reads or writes its attributes.
 ///
 /// What an interface can't do raises an exception of its own (Exception.h).  The `throw...`
 /// operations take the words that the complaint is about, and return to nobody.
@@ -48,33 +50,33 @@ class GenericIf : public PtrInterface::NotifieeConst {
   ///
   /// Raises, in this order: `ConstException` for a write to a constant interface, whatever the
   /// attribute; `UnknownAttrException` for an attribute that the type doesn't have;
-  /// `BadIndexAttrException` for an index where none belongs; `OpNotSupportedException`;
+  /// `RangeException` "null <type>" without an entity; `BadIndexAttrException` for an index where
+  /// an attribute is no collection, or elements bear their own keys; `OpNotSupportedException`;
   /// `TypeException` for an index or a value of another type than the attribute's, or none; and
-  /// what the mutator itself raises.  Nothing has changed then.
+  /// what the mutator itself raises.
   virtual Ptr attributeOp(AttributeOp op, PtrConst const& index = nullptr,
                           PtrConst const& value = nullptr);
 
   /// A walk over a collection from its first element on, or from `key` on; where that is absent,
   /// from the element behind its place.  It survives every change of the collection.
   virtual AttributeIteratorConst attributeIteratorConst(AttributeId id) const;
-  /// The element under the iterator, its key, and a step; null, null and nothing at the end.
+  virtual AttributeIteratorConst attributeIteratorKeyConst(AttributeId id,
+                                                           PtrConst const& key) const;
+  // What `AttributeIteratorConst` does, by the names of the platform.
   virtual Ptr attributeIterator_iterObj(AttributeIteratorConst const& at);
   virtual PtrConst attributeIterator_iterObj(AttributeIteratorConst const& at) const;
   virtual void attributeIterator_iterInc(AttributeIteratorConst& at) const;
   virtual PtrConst attributeIterator_iterKey(AttributeIteratorConst const& at) const;
-  /// Frees what the iterator keeps, or makes a copy of it.
   virtual void attributeIterator_iterDel(AttributeIteratorConst& at) const;
   virtual AttributeIteratorConst attributeIterator_iterClone(
       AttributeIteratorConst const& at) const;
-  /// True unless the iterator is at the end.
   virtual bool attributeIterator_nonNull(AttributeIteratorConst const& at) const;
-  virtual AttributeIteratorConst attributeIteratorKeyConst(AttributeId id,
-                                                           PtrConst const& key) const;
 
   /// The address of what is held, for those who know the type: the value, or for an object or
   /// entity a `PtrInterface const*`, which may be null.  Raises `TypeException` unless `type` is
   /// the very type of this interface.
   virtual void const* voidPtrIs(Mox::Ptr<MoxType const> const& type) const;
+  /// The descriptor of what is held.
   virtual MoxType const* type() const;
   /// The number of the attribute of that name; raises `UnknownAttrException` where there is none.
   virtual AttributeId attributeId(String8 const& name) const;
@@ -85,7 +87,8 @@ class GenericIf : public PtrInterface::NotifieeConst {
   /// its fields or constructor parameters in order; those that the list leaves out have their
   /// defaults.  Raises `TypeException` "Mox::GenericIf::List_" for what is no list, "List" for one
   /// without entries at all, and with the parameter's name for a wrong type;
-  /// `UnknownArgException` for entries left over; and what the constructor raises.
+  /// `UnknownArgException` for entries left over; what the constructor raises; and
+  /// `OpNotSupportedException` for objects, enumerations, and entities that take a name alone.
   virtual Ptr genericIfListConstructor(PtrConst const& list) const;
   /// Parks this interface, marked for deletion and silent, or brings it back.
   virtual void moxDoZombieReactors(bool zombie);
@@ -117,7 +120,7 @@ class GenericIf : public PtrInterface::NotifieeConst {
     if (op.opId >= firstWrite && isConst_) [[unlikely]]
       throwConstException("attempting to modify a const instance");
   }
-  /// Says where that is what `voidPtrIs` hands out.
+  /// `held` is what `voidPtrIs` hands out.
   void heldIs(void const* held) noexcept { held_ = held; }
   void isConstIs(bool isConst) noexcept { isConst_ = isConst; }
 
@@ -133,8 +136,8 @@ class GenericIf : public PtrInterface::NotifieeConst {
 /// What an iterator keeps of one walk: the collection, held by its owner, and the position.
 class GenericIf::IteratorState : public PtrInterface {
  public:
+  /// False at the end, where the next three mustn't be called.
   bool nonNull() const noexcept { return nonNull_; }
-  // Not at the end.
   virtual Ptr obj(bool isConst) const = 0;
   virtual PtrConst key() const = 0;
   virtual void inc() = 0;

@@ -18,7 +18,8 @@ class GenericIfEntity : public GenericIf {
   class Watcher : public PtrInterface {
    public:
     /// Attribute `id` has changed, in a collection under `key`.  A null key means several changes
-    /// of a collection at once, or a scalar.
+    /// of a collection at once, or a scalar.  In a batch in which more has changed than one
+    /// attribute or than collections alone, every scalar is told, whether it has changed or not.
     virtual void onAttribute(GenericIfEntity& changed, AttributeId id, PtrConst const& key) = 0;
   };
 
@@ -50,20 +51,8 @@ class GenericIfEntity : public GenericIf {
   /// In the middle of a long notification: lets what else `activity` has to do go first.
   void redispatch(ActivitySm* activity);
 
-  /// Marks, for the scope that it lives in, that this interface tells what was noted.
-  class Telling {
-   public:
-    explicit Telling(GenericIfEntity& self) : self_(self), before_(self.telling_) {
-      self.telling_ = true;
-    }
-    ~Telling() { self_.telling_ = before_; }
-    Telling(Telling const&) = delete;
-    Telling& operator=(Telling const&) = delete;
-
-   private:
-    GenericIfEntity& self_;
-    bool before_;
-  };
+  /// Set while this interface tells what was noted.
+  bool& moxTelling() noexcept { return telling_; }
 
   void handleNotification(ActivityConfig* activity) override;
   using GenericIf::NotifieeConst::onAttribute;

@@ -12,6 +12,7 @@
 #include "Mox/Dir.h"
 #include "Mox/Entity.h"
 #include "Mox/Exception.h"
+#include "Mox/Flagged.h"
 #include "Mox/GenericIf.h"
 #include "Mox/GenericIfEntity.h"
 #include "Mox/HashMap.h"

@@ -1,33 +1,29 @@
 // The queue of an activity.
 #include "Mox/Activity.h"
 
+#include "Mox/Flagged.h"
+
 namespace Mox {
-
-namespace {
-
-/// Sets a flag for the scope that it lives in.
-class Flagged {
- public:
-  explicit Flagged(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Flagged() { flag_ = false; }
-  Flagged(Flagged const&) = delete;
-  Flagged& operator=(Flagged const&) = delete;
-
- private:
-  bool& flag_;
-};
-
-}  // namespace
 
 void ActivitySm::enq(Ptr<PtrInterface::NotifieeConst> const& notifiee) {
   queue_.push_back(notifiee);
 }
 
+Ptr<PtrInterface::NotifieeConst> ActivitySm::next() {
+  while (!queue_.empty()) {
+    auto const first = std::move(queue_.front());
+    queue_.pop_front();
+    if (first->references() > 1) return first;
+  }
+  return nullptr;
+}
+
 bool ActivitySm::runOne() {
-  if (queue_.empty()) return false;
-  Ptr<PtrInterface::NotifieeConst> const first = std::move(queue_.front());
-  queue_.pop_front();
-  if (first->references() == 1) return true;
+  auto const first = next();
+  if (!first) return false;
+  // What it tells may let go of the activity.
+  Ptr<ActivitySm> const self = this;
+  Ptr<ActivityConfig> const config = config_;
   try {
     first->handleNotification(config_);
   } catch (...) {
@@ -45,6 +41,7 @@ U32 ActivitySm::run() {
 
 void ActivitySm::yield() {
   if (yielding_) return;
+  Ptr<ActivitySm> const self = this;
   Flagged const yielding(yielding_);
   for (U32 left = waiting(); left > 0 && runOne(); --left) {
   }

@@ -43,7 +43,7 @@ class PrimitiveIf : public GenericIf {
   bool servesAgain(typename Builtin<T>::Passed value, bool isConst) {
     constexpr U32 kept = ReferenceWord::notificationActive | 1;
     if (referenceWord() != kept) return false;
-    // Not counted up: what isn't read first can't be waited for.
+    // Stored, not counted up: the count that was dropped last needn't have reached the memory yet.
     referenceWord_ = ReferenceWord(kept + 1);
     value_ = value;
     isConstIs(isConst);

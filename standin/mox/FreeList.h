@@ -22,8 +22,7 @@ class FreeList {
   static void* take(std::size_t size);
   /// Gives back what `take` gave for the same size.
   static void give(void* block, std::size_t size) noexcept;
-  /// Whether blocks are kept at all now: not while several threads run, nor under a sanitizer,
-  /// which must see each come and go.
+  /// Whether blocks are kept at all now.
   static bool keeps() noexcept { return listed && !ReferenceWord::threadSafe; }
   /// Blocks that the list of this size keeps now.
   static std::size_t kept(std::size_t size) noexcept;

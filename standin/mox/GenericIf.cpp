@@ -64,7 +64,8 @@ AttributeId GenericIf::attributeId(String8 const& name) const {
 }
 
 GenericIf::Ptr GenericIf::genericIfListConstructor(PtrConst const&) const {
-  throwOpNotSupportedException(type()->moxName().stringValue(), opWrite, false);
+  throw OpNotSupportedException(quoted(type()->moxName().stringValue()) +
+                                " is not made of a list of arguments");
 }
 
 void GenericIf::moxDoZombieReactors(bool zombie) {

@@ -102,7 +102,7 @@ Ptr<GenericIf> MoxType::genericIf(String8 const& text, bool isConst) const {
 }
 
 Ptr<GenericIf> MoxType::genericIf_(PtrInterface*, bool) const {
-  GenericIf::throwOpNotSupportedException(fullTypeName().stringValue(), GenericIf::opRead, false);
+  throw OpNotSupportedException("'" + fullTypeName().stringValue() + "' has no access by number");
 }
 
 Ptr<Entity> MoxType::newEntity(Name const&, Dir*) const { return nullptr; }
