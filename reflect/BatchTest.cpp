@@ -209,6 +209,20 @@ TEST_F(BatchTest, WorkThatComesMeanwhileRunsBetweenToo) {
   EXPECT_EQ(run(), "267 3;268 5;later;275 4;");
 }
 
+TEST_F(BatchTest, WhatRunsBetweenTwoAttributesRunsWhole) {
+  batched();
+  Ptr<Notes> const others = new Notes;
+  entityFace(constant).watcherIs(others);
+  entityFace(constant).activityIs(activity);
+  entity->bytesIs(3, 1);
+  entity->lanesIs(4, 1);
+  auto const work = enqueued([&] { others->heard += "work;"; });
+  others->then = [&] { notes->heard += std::exchange(others->heard, ""); };
+  activity->activitySm()->run();
+  EXPECT_EQ(notes->take(), "267 3;267 3;275 4;275 4;");
+  EXPECT_EQ(others->take(), "work;") << "behind the other interface's last";
+}
+
 TEST_F(BatchTest, AChangeInMidBatchIsToldAtOnceAndLosesNoKey) {
   batched();
   entity->bytesIs(3, 1);
@@ -272,6 +286,23 @@ TEST_F(BatchTest, AWatcherMayLetGoOfItself) {
     notes = new Notes;
     entityFace(face).watcherIs(notes);
   }
+}
+
+TEST_F(BatchTest, AWatcherThatLetsGoOfItselfLivesToTheEndOfItsCall) {
+  struct Leaving : GenericIfEntity::Watcher {
+    explicit Leaving(bool& gone) : gone_(gone) {}
+    ~Leaving() override { gone_ = true; }
+    void onAttribute(GenericIfEntity& from, Id, GenericIf::PtrConst const&) override {
+      bool const& gone = gone_;
+      from.watcherIs(nullptr);
+      EXPECT_FALSE(gone);
+    }
+    bool& gone_;
+  };
+  bool gone = false;
+  entityFace(face).watcherIs(new Leaving(gone));
+  entity->levelIs(1);
+  EXPECT_TRUE(gone);
 }
 
 TEST_F(BatchTest, AWatcherMayLetGoOfTheInterface) {

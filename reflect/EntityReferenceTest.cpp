@@ -147,6 +147,8 @@ TEST_F(EntityReferenceTest, TheBeginningOfANameIsNoName) {
             "Range: there is no everyShape::Leaf 'e0/c'");
   EXPECT_EQ(refused(Leaf::_fwkType(), "Entity('everyShape::Leaf', 'e0cd')"),
             "Range: there is no everyShape::Leaf 'e0cd'");
+  EXPECT_EQ(refused(Leaf::_fwkType(), "Entity('everyShape::Leaf', 'e0-cd')"),
+            "Range: there is no everyShape::Leaf 'e0-cd'");
 }
 
 TEST_F(EntityReferenceTest, ReadingCountsNoReadOfTheUsers) {

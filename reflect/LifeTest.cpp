@@ -141,6 +141,13 @@ TEST_F(LifeTest, ItCanBeTurnedToAnotherEntity) {
   EXPECT_EQ(other->references(), 1u);
 }
 
+TEST_F(LifeTest, TurnedToAnEntityItIsNoRegisteredNotifieeItself) {
+  face->isRegisteredNotifieeIs(true);
+  face->notifierIs(entity);
+  EXPECT_FALSE(face->isRegisteredNotifiee());
+  EXPECT_EQ(told(), 2);
+}
+
 TEST_F(LifeTest, AnEntityOfAnotherClassCountsAsNone) {
   face->notifierIs(leaf("l"));
   EXPECT_EQ(entityOf(face.ptr()), nullptr);

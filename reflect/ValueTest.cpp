@@ -140,6 +140,7 @@ TEST(ValueTest, ADerivedValueHasItsOwnBoundAndItsBasesHash) {
   shade.write(2, given(U16{359}));
   EXPECT_EQ(valueOf<Shade>(shade.ptr()).value(), 359);
   EXPECT_EQ(shade.refused(4, GenericIf::opRead), "UnknownAttr: 'Shade' has no such attribute");
+  EXPECT_TRUE(given(Shade(30), true)->attributeOp({3})->isConst());
   EXPECT_EQ(shade.refused(3, 128, nullptr, given(U16{1})),
             "OpNotSupported: 'hash' does not support operation 128");
 }
