@@ -203,7 +203,7 @@ TEST(ValueTest, RefusesWhatIsNoList) {
 }
 
 TEST(ValueTest, AValueWithoutFieldsHasNoListConstructor) {
-  EXPECT_EQ(refusedList<Heap>(list()), "OpNotSupported: 'Heap' does not support operation 128");
+  EXPECT_EQ(refusedList<Heap>(list()), "OpNotSupported: 'Heap' is not made of a list of arguments");
 }
 
 TEST(EnumerationTest, AttributeOneIsTheEnumeratorItself) {
@@ -217,7 +217,7 @@ TEST(EnumerationTest, AttributeOneIsTheEnumeratorItself) {
 TEST(EnumerationTest, IsReadAloneAndTakesNoIndex) {
   Face const face(given(everyShape::tense));
   EXPECT_EQ(face.refused(1, GenericIf::opWrite, nullptr, given(everyShape::calm)),
-            "OpNotSupported: 'Mood' does not support operation 128");
+            "OpNotSupported: 'Mood' is not made of a list of arguments");
   EXPECT_EQ(face.refused(1, GenericIf::opRead, given(U8{1})),
             "BadIndexAttr: attribute 'Mood' takes no index");
 }
