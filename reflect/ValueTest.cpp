@@ -217,7 +217,7 @@ TEST(EnumerationTest, AttributeOneIsTheEnumeratorItself) {
 TEST(EnumerationTest, IsReadAloneAndTakesNoIndex) {
   Face const face(given(everyShape::tense));
   EXPECT_EQ(face.refused(1, GenericIf::opWrite, nullptr, given(everyShape::calm)),
-            "OpNotSupported: 'Mood' is not made of a list of arguments");
+            "OpNotSupported: 'Mood' does not support operation 128");
   EXPECT_EQ(face.refused(1, GenericIf::opRead, given(U8{1})),
             "BadIndexAttr: attribute 'Mood' takes no index");
 }
