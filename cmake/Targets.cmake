@@ -31,7 +31,8 @@ function(kestrel_library name kind)
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON
     UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
   if(kind STREQUAL "SHARED")
-    target_link_options(${name} PRIVATE -Wl,-z,defs)
+    # Calls inside of a library are bound when it is linked: nobody replaces a function of ours.
+    target_link_options(${name} PRIVATE -Wl,-z,defs -Wl,-Bsymbolic-functions)
   endif()
 endfunction()
 

@@ -39,7 +39,8 @@ class ActivitySm : public PtrInterface {
   bool yielding_ = false;
 };
 
-/// One activity: its name, and its queue.
+/// One activity: its name, and its queue.  An interface that waits in the queue holds the activity:
+/// let it run out, or take the activity from its interfaces, before the last other reference goes.
 class ActivityConfig : public PtrInterface {
  public:
   explicit ActivityConfig(Name const& name) : name_(name), activitySm_(new ActivitySm(this)) {}

@@ -136,7 +136,8 @@ class MoxType : public MoxAttr {
   virtual Ptr<Entity> newEntity(Name const& name, Dir* dir) const;
 
   /// The interface of a value of this type, copied from `value`; of an object or entity, to which a
-  /// `PtrInterface const*` at `value` points, or which is null.  Held by the caller alone.  Raises
+  /// `PtrInterface const*` at `value` points, or which is null.  Held by the caller (a primitive's
+  /// by the runtime too, for its next use).  Raises
   /// `OpNotSupportedException` for a type without reflective access.
   virtual Ptr<GenericIf> genericIf(void const* value, bool isConst) const;
   /// The same from a text form: a value's own, an entity's reference (Strep.h).  Raises
