@@ -5,6 +5,7 @@
 #include "Mox/GenericIfEntity.h"
 #include "everyShape/everyShape.h"
 
+#include <gtest/gtest.h>
 #include <string>
 #include <typeindex>
 #include <vector>
