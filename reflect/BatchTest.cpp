@@ -41,6 +41,8 @@ class Work : public Mox::PtrInterface::NotifieeConst {
 
 struct BatchTest : EveryFixture {
   void SetUp() override { entityFace(face).watcherIs(notes); }
+  /// What waits holds its activity, which holds it.
+  void TearDown() override { activity->activitySm()->run(); }
   void batched() { entityFace(face).activityIs(activity); }
   /// Lets the activity run, and tells what was heard.
   std::string run() {
