@@ -16,9 +16,9 @@ void enter(List::Entries& entries, GenericIf::PtrConst const& value) {
 }  // namespace
 
 void Arguments::take(std::span<Argument const> wanted, char const* name) {
-  if (entries_.count() > wanted.size()) GenericIf::throwUnknownArgException(name);
   held_.reserve(wanted.size());
   for (auto const& entry : entries_) {
+    if (held_.size() == wanted.size()) GenericIf::throwUnknownArgException(name);
     Argument const& argument = wanted[held_.size()];
     held_.push_back(GenericIf::requireHeld(entry.value(), argument.type(), argument.name));
   }

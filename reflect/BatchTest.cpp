@@ -346,13 +346,62 @@ TEST_F(BatchTest, AnotherInterfaceOfTheEntityHasItsOwnBatch) {
   EXPECT_EQ(run(), "267 1;");
 }
 
-TEST_F(BatchTest, WithoutTheActivityWhatWaitsIsStillTold) {
+TEST_F(BatchTest, WithoutTheActivityWhatWaitsIsToldAtOnce) {
   batched();
   entity->bytesIs(1, 1);
   entityFace(face).activityIs(nullptr);
-  EXPECT_EQ(run(), "267 1;");
+  EXPECT_EQ(notes->take(), "267 1;");
+  EXPECT_EQ(run(), "");
   entity->bytesIs(2, 1);
   EXPECT_EQ(notes->take(), "267 2;");
+}
+
+TEST_F(BatchTest, AnotherActivityTellsWhatWaits) {
+  batched();
+  entity->bytesIs(1, 1);
+  activity->activitySm()->run();
+  EXPECT_EQ(notes->take(), "267 1;");
+  entity->bytesIs(2, 1);
+  Ptr<Mox::ActivityConfig> const former = std::exchange(activity, new Mox::ActivityConfig("other"));
+  batched();
+  EXPECT_EQ(run(), "267 2;");
+  former->activitySm()->run();
+  EXPECT_EQ(notes->take(), "") << "once";
+}
+
+TEST_F(BatchTest, WhatAnActivityRunsMayLetGoOfIt) {
+  Ptr<Mox::ActivityConfig> own = new Mox::ActivityConfig("own");
+  Mox::ActivitySm* const queue = own->activitySm();
+  int ran = 0;
+  Ptr<Work> const first = new Work([&] { own = nullptr; });
+  Ptr<Work> const second = new Work([&ran] { ++ran; });
+  queue->enq(first);
+  queue->enq(second);
+  EXPECT_EQ(queue->run(), 2u);
+  EXPECT_EQ(ran, 1);
+}
+
+TEST_F(BatchTest, AnActivityCountsWhatRan) {
+  enqueued([] {});  // let go at once
+  Ptr<Work> const held = enqueued([] {});
+  EXPECT_EQ(activity->activitySm()->waiting(), 2u);
+  EXPECT_EQ(activity->activitySm()->run(), 1u);
+  EXPECT_FALSE(activity->activitySm()->runOne());
+}
+
+TEST_F(BatchTest, AParkedInterfaceTellsNothingOfWhatItNoted) {
+  batched();
+  entity->levelIs(1);
+  face->moxDoZombieReactors(true);
+  EXPECT_EQ(run(), "");
+}
+
+TEST_F(BatchTest, TurnedToAnotherEntityItForgetsWhatItNoted) {
+  batched();
+  entity->levelIs(1);
+  Ptr<everyShape::Derived> const other = new everyShape::Derived("e1", 8);
+  face->notifierIs(other);
+  EXPECT_EQ(run(), "");
 }
 
 TEST_F(BatchTest, ASwitchedOffInterfaceNotesNothing) {

@@ -24,7 +24,7 @@ GenericIf::Ptr faceOf(Mox::PtrInterface const* target, frame::TypeOf declared, b
 GenericIf::Ptr owningFaceOf(Mox::Entity* made) {
   Mox::Ptr<Mox::Entity> const entity = made;
   auto const face = made->fwkType()->genericIf_(made, false);
-  face->isWeakReferenceIs(false);
+  dynamic_cast<Mox::GenericIfEntity&>(*face).moxKeepsEntityIs(true);
   return face;
 }
 

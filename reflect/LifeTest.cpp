@@ -130,6 +130,46 @@ TEST_F(LifeTest, ParkedItIsMarkedAndSilentAndBroughtBackItHears) {
   EXPECT_EQ(told(), 2);
 }
 
+// Nobody would tell a silent interface that its entity ends: it looked at what had gone.
+TEST_F(LifeTest, WhileSilentItKeepsItsEntity) {
+  for (bool const parks : {false, true}) {
+    if (parks)
+      face->moxDoZombieReactors(true);
+    else
+      face->hasNotificationActiveIs(false);
+    EXPECT_EQ(entity->references(), 2u);
+    Mox::PtrInterface const* const before = entity.ptr();
+    entity = nullptr;
+    entity = dynamic_cast<everyShape::Derived*>(dynamic_cast<GenericIfEntity&>(*face.ptr()).entity());
+    EXPECT_EQ(entity.ptr(), before);
+    if (parks)
+      face->moxDoZombieReactors(false);
+    else
+      face->hasNotificationActiveIs(true);
+    EXPECT_EQ(entity->references(), 1u);
+    EXPECT_TRUE(face->hasNotificationActive());
+    EXPECT_EQ(told(), 2);
+  }
+}
+
+TEST_F(LifeTest, TurnedToAnotherEntityAfterTheEndOfTheFormerItIsSilentUntilSwitchedOn) {
+  entity = new everyShape::Derived("e1", 8);
+  EXPECT_EQ(face.text(), "None");
+  face->notifierIs(entity);
+  EXPECT_EQ(told(), 0);
+  face->hasNotificationActiveIs(true);
+  EXPECT_EQ(told(), 2);
+  EXPECT_EQ(entity->references(), 1u);
+}
+
+TEST_F(LifeTest, WhatAListMadeIsKeptAlsoBehindAParking) {
+  auto const list = reflecttest::list({given(Mox::Name("e2")), given(U16{3})});
+  GenericIf::Ptr const made = face->genericIfListConstructor(list);
+  made->moxDoZombieReactors(true);
+  made->moxDoZombieReactors(false);
+  EXPECT_EQ(shown(made->attributeOp({every::port})), "3");
+}
+
 TEST_F(LifeTest, ItCanBeTurnedToAnotherEntity) {
   Ptr<everyShape::Derived> const other = new everyShape::Derived("e1", 8);
   face->notifierIs(other);

@@ -45,8 +45,9 @@ class GenericIf : public PtrInterface::NotifieeConst {
   GenericIf(MoxType const* type, bool isConst) : type_(type), isConst_(isConst) {}
   ~GenericIf() override;
 
-  /// Does what `op` asks.  What is read comes back as an interface of the attribute's type that is
-  /// as constant as this one; what is written answers null, an operation of an object its result.
+  /// Does what `op` asks.  What is read comes back as an interface of the attribute's type, for an
+  /// entity or object of the class that it is of, as constant as this one; what is written answers
+  /// null, an operation of an object its result.
   ///
   /// Raises, in this order: `ConstException` for a write to a constant interface, whatever the
   /// attribute; `UnknownAttrException` for an attribute that the type doesn't have;
@@ -109,7 +110,7 @@ class GenericIf : public PtrInterface::NotifieeConst {
 
   /// The address of what `given` holds; raises `TypeException` with `name` unless it is a `type`.
   static void const* requireHeld(PtrConst const& given, MoxType const* type, char const* name) {
-    if (given && given->type_ == type) [[likely]]
+    if (given && given->type_ == type && given->held_) [[likely]]
       return given->held_;
     return requireOther(given, type, name);
   }

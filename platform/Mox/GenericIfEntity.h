@@ -11,7 +11,9 @@ namespace Mox {
 /// The interface of an entity.  It observes the entity through an adapter of each level of its
 /// class, and tells one watcher of each change: at once, or, with an activity, in batches.
 ///
-/// It doesn't keep the entity alive.  When the entity's last reference goes it lets go of it.
+/// It doesn't keep the entity alive: when the entity's last reference goes it lets go of it, and
+/// falls silent.  While it is silent, switched off or parked, nobody would tell it of that; so then
+/// it does keep the entity alive.
 class GenericIfEntity : public GenericIf {
  public:
   /// Is told of the changes of one entity.
@@ -33,7 +35,10 @@ class GenericIfEntity : public GenericIf {
   /// Who is told; null for nobody.
   void watcherIs(Mox::Ptr<Watcher> const& watcher);
   /// From now on changes are told in batches when `activity` gets to it; at once for null.
+  /// What is noted already is told by the new one, or for null now.
   void activityIs(Mox::Ptr<ActivityConfig> const& activity);
+  /// Whether this interface keeps its entity alive also while it isn't silent.
+  void moxKeepsEntityIs(bool keeps);
   /// Whether the adapters of this interface hear.  One that a descriptor has made doesn't until it
   /// gets a watcher or an activity, so that writing through it costs no delivery.
   virtual void moxAdaptersHearIs(bool hears);
@@ -54,6 +59,8 @@ class GenericIfEntity : public GenericIf {
   /// Set while this interface tells what was noted.
   bool& moxTelling() noexcept { return telling_; }
 
+  void hasNotificationActiveIs(bool active) override;
+  void moxDoZombieReactors(bool zombie) override;
   void handleNotification(ActivityConfig* activity) override;
   using GenericIf::NotifieeConst::onAttribute;
   void onAttribute(AttributeId id) override;
@@ -71,6 +78,7 @@ class GenericIfEntity : public GenericIf {
   S32 notification_ = nothing;
   bool collectionsAlone_ = true;  // of what is noted, so far
   bool telling_ = false;
+  bool keepsEntity_ = false;
 };
 
 }  // namespace Mox

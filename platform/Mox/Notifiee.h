@@ -61,8 +61,8 @@ class PtrInterface::NotifieeConst : public PtrInterface {
   virtual void handleNotificationException();
 
   /// The notifier's last reference has gone; who takes one now keeps it alive.  Only registered
-  /// notifiees are told.  An exception out of the report of a failure ends here, in the trace
-  /// "MoxNotification": pointers let go where none can pass.
+  /// notifiees are told, and not those that register meanwhile.  An exception out of the report of
+  /// a failure ends here, in the trace "MoxNotification": pointers let go where none can pass.
   virtual void onZeroReferences();
 
   virtual ActivityConfig* activityPtr() const;

@@ -36,6 +36,10 @@ class PrimitiveIf : public GenericIf {
     referenceWord_.flagIs(ReferenceWord::notificationActive, true);
   }
 
+  // A value has nothing to observe: nothing is kept that its next use could find.
+  void notifierIs(Mox::Ptr<PtrInterface const> const&) override {}
+  void mox_bitSetIs(Mox_BitSet) override {}
+
   Ptr clone() override { return primitiveIf(value_, isConst()); }
   String8 strRep() const override { return textOf(value_); }
 

@@ -22,7 +22,24 @@ void GenericIfEntity::notifierIs(Mox::Ptr<PtrInterface const> const& notifier) {
   isWeakReferenceIs(false);
   GenericIf::notifierIs(ptrCast<Entity const>(notifier));
   isWeakReferenceIs(weak);
-  moxRegisteredIs(false);  // only its adapters stand in the entity's list
+  moxRegisteredIs(false);                 // only its adapters stand in the entity's list
+  if (notifier) notification_ = nothing;  // what is noted is of another entity
+}
+
+void GenericIfEntity::hasNotificationActiveIs(bool active) {
+  GenericIf::hasNotificationActiveIs(active);
+  isWeakReferenceIs(active && !keepsEntity_);
+}
+
+void GenericIfEntity::moxKeepsEntityIs(bool keeps) {
+  keepsEntity_ = keeps;
+  isWeakReferenceIs(hasNotificationActive() && !keeps);
+}
+
+void GenericIfEntity::moxDoZombieReactors(bool zombie) {
+  GenericIf::moxDoZombieReactors(zombie);
+  // An adapter that comes back is still marked while it does, and doesn't switch its owner on.
+  GenericIfEntity::hasNotificationActiveIs(!zombie);
 }
 
 void GenericIfEntity::watcherIs(Mox::Ptr<Watcher> const& watcher) {
@@ -33,6 +50,11 @@ void GenericIfEntity::watcherIs(Mox::Ptr<Watcher> const& watcher) {
 void GenericIfEntity::activityIs(Mox::Ptr<ActivityConfig> const& activity) {
   activity_ = activity;
   if (activity) moxAdaptersHearIs(true);
+  if (notification_ == nothing) return;
+  if (activity)
+    activity->activitySm()->enq(this);
+  else
+    handleNotification(nullptr);
 }
 
 void GenericIfEntity::moxAdaptersHearIs(bool) {}
@@ -50,6 +72,7 @@ void GenericIfEntity::handleNotification(ActivityConfig*) { notification_ = noth
 void GenericIfEntity::onAttribute(AttributeId id) { onAttribute(id, nullptr); }
 
 void GenericIfEntity::onAttribute(AttributeId id, PtrConst const& key) {
+  if (moxMarkedForDeletion()) return;
   // The watcher may let go of itself, and of this interface.
   Mox::Ptr<GenericIfEntity> const self = this;
   Mox::Ptr<Watcher> const watcher = watcher_;
