@@ -140,7 +140,8 @@ TEST_F(LifeTest, WhileSilentItKeepsItsEntity) {
     EXPECT_EQ(entity->references(), 2u);
     Mox::PtrInterface const* const before = entity.ptr();
     entity = nullptr;
-    entity = dynamic_cast<everyShape::Derived*>(dynamic_cast<GenericIfEntity&>(*face.ptr()).entity());
+    entity =
+        dynamic_cast<everyShape::Derived*>(dynamic_cast<GenericIfEntity&>(*face.ptr()).entity());
     EXPECT_EQ(entity.ptr(), before);
     if (parks)
       face->moxDoZombieReactors(false);
@@ -154,7 +155,7 @@ TEST_F(LifeTest, WhileSilentItKeepsItsEntity) {
 
 TEST_F(LifeTest, TurnedToAnotherEntityAfterTheEndOfTheFormerItIsSilentUntilSwitchedOn) {
   entity = new everyShape::Derived("e1", 8);
-  EXPECT_EQ(face.text(), "None");
+  EXPECT_EQ(shown(face.ptr()), "None");
   face->notifierIs(entity);
   EXPECT_EQ(told(), 0);
   face->hasNotificationActiveIs(true);

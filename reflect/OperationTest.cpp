@@ -162,7 +162,7 @@ TEST_F(ConstructorTest, ADerivedClassMakesOneOfItsOwn) {
 TEST_F(ConstructorTest, AClassWithTheNameAloneHasNone) {
   auto const groves = everyShape::Grove::_fwkType()->genericIf_(nullptr, false);
   EXPECT_EQ(refusal([&] { groves->genericIfListConstructor(list()); }),
-            "OpNotSupported: 'Grove' does not support operation 128");
+            "OpNotSupported: 'Grove' is not made of a list of arguments");
 }
 
 }  // namespace

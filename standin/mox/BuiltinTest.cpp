@@ -154,7 +154,7 @@ TEST(BuiltinTest, NothingHasNoInterface) {
   int nothing = 0;
   EXPECT_EQ(complaint<Mox::OpNotSupportedException>(
                 [&] { Builtin<void>::_fwkType()->genericIf(&nothing, false); }),
-            "'void' does not support operation 0");
+            "'void' has no access by number");
 }
 
 /// Each bounded integer, with its greatest value and its complaint.
