@@ -154,7 +154,8 @@ TEST_F(ConstructorTest, ADerivedClassMakesOneOfItsOwn) {
   EXPECT_EQ(shown(made), "Entity('everyShape::Derived', 'd')");
   EXPECT_EQ(Face(made).read(every::port), "5");
   EXPECT_EQ(refusal([&] {
-              deriveds->genericIfListConstructor(list({nullptr, nullptr, nullptr}));
+              deriveds->genericIfListConstructor(
+                  list({given(Mox::Name("d")), given(U16{1}), given(U8{1})}));
             }),
             "UnknownArg: too many arguments for 'Derived'");
 }
