@@ -1,7 +1,6 @@
 // Reads descriptors.
 #include "tools/kestrel/model/Attributes.h"
 
-#include "Mox/Builtin.h"
 #include "Mox/Exception.h"
 
 namespace kestrel {
@@ -36,17 +35,7 @@ MoxAttr const* onlyField(MoxType const& type) {
 
 bool isCollection(MoxAttr const& attribute) { return attribute.keyType() != nullptr; }
 
-bool isOperation(MoxAttr const& attribute) {
-  constexpr U32 introspectable = 8;
-  return attribute.introspectionFlags() == introspectable && !isMachinery(attribute);
-}
-
 bool isComputed(MoxAttr const& attribute) { return attribute.introspectionFlags() == 0; }
-
-bool isOwned(MoxAttr const& attribute) {
-  constexpr U32 instantiating = 0x10000000;
-  return (attribute.flags().second & instantiating) != 0;
-}
 
 std::vector<MoxAttr const*> attributesOf(MoxType const& type) {
   std::vector<MoxAttr const*> attributes;
@@ -94,8 +83,7 @@ GenericIf::Ptr read(GenericIf& face, MoxAttr const& attribute) {
 }
 
 U32 countOf(GenericIf& face, MoxAttr const& collection) {
-  auto const count = face.attributeOp({collection.id(), GenericIf::opCount});
-  return *static_cast<U32 const*>(count->voidPtrIs(Mox::Builtin<U32>::_fwkType()));
+  return *heldAs<U32>(*face.attributeOp({collection.id(), GenericIf::opCount}));
 }
 
 std::string countText(GenericIf& face, MoxAttr const& collection) {

@@ -1,6 +1,7 @@
 // What descriptors say of types and attributes, as the commands on the model ask it.
 #pragma once
 
+#include "Mox/Builtin.h"
 #include "Mox/MoxType.h"
 
 #include <string>
@@ -24,11 +25,8 @@ bool isText(MoxType const& type);
 MoxAttr const* onlyField(MoxType const& type);
 
 bool isCollection(MoxAttr const& attribute);
-bool isOperation(MoxAttr const& attribute);
 /// It follows from others and holds nothing.
 bool isComputed(MoxAttr const& attribute);
-/// What the attribute holds comes and goes with its owner.
-bool isOwned(MoxAttr const& attribute);
 
 /// The attributes of a type that users look at, those of the base first: all but the runtime's own
 /// machinery, and none for an enumeration.
@@ -42,6 +40,12 @@ std::vector<std::string> enumeratorsOf(MoxType const& enumeration);
 /// "(tableId U32) -> Mox::String", without an arrow where nothing comes back.
 std::string signatureOf(MoxAttr const& operation);
 
+/// The value as the primitive `T`; null where it is of another type.
+template <class T>
+T const* heldAs(GenericIf const& face) {
+  MoxType const* const type = Mox::Builtin<T>::_fwkType();
+  return face.type() == type ? static_cast<T const*>(face.voidPtrIs(type)) : nullptr;
+}
 /// The interface of no entity or object.
 bool isNull(GenericIf const& face);
 /// What the attribute holds; null where it can't be read.

@@ -77,14 +77,14 @@ std::vector<Parameter> parametersOf(MoxAttr const& operation) {
 std::vector<std::string> operationsOf(MoxType const& type) {
   std::vector<std::string> names;
   for (MoxAttr const* const attribute : attributesOf(type))
-    if (isOperation(*attribute)) names.push_back(nameOf(*attribute));
+    if (attribute->isOperation()) names.push_back(nameOf(*attribute));
   return names;
 }
 
 MoxAttr const& operationAt(Place const& place, std::string const& name) {
   if (!place.isObject()) throw faultAt(place.path, "what stands there has no operations");
   MoxAttr const* const attribute = attributeOf(*place.face->type(), name);
-  if (!attribute || !isOperation(*attribute))
+  if (!attribute || !attribute->isOperation())
     throw faultAt(place.path,
                   "no operation \"" + name + "\"; " + listed(operationsOf(*place.face->type())));
   return *attribute;

@@ -1,7 +1,6 @@
 // From interfaces to JSON, by the descriptors of their types.
 #include "tools/kestrel/model/FaceJson.h"
 
-#include "Mox/Builtin.h"
 #include "tools/kestrel/model/PlainText.h"
 
 #include <cmath>
@@ -10,13 +9,6 @@
 namespace kestrel {
 
 namespace {
-
-/// The value as the primitive `T`; null where it is of another type.
-template <class T>
-T const* heldAs(GenericIf const& face) {
-  MoxType const* const type = Mox::Builtin<T>::_fwkType();
-  return face.type() == type ? static_cast<T const*>(face.voidPtrIs(type)) : nullptr;
-}
 
 /// Json of the first of the types that the value is of.
 template <class First, class... Others>
@@ -64,7 +56,7 @@ Json attributesAsJson(GenericIf& face) {
   bool const isRecord = face.type()->isValue();
   for (MoxAttr const* const attribute : attributesOf(*face.type())) {
     if (isRecord && isComputed(*attribute)) continue;
-    if (isOperation(*attribute))
+    if (attribute->isOperation())
       json[nameOf(*attribute)] = operationOf(*attribute);
     else if (isCollection(*attribute))
       json[nameOf(*attribute)] = elementsOf(face, *attribute);
@@ -74,7 +66,7 @@ Json attributesAsJson(GenericIf& face) {
   return json;
 }
 
-Json valueOf(GenericIf& face) {
+Json valueJson(GenericIf& face) {
   if (auto const number = numberOf<bool, U8, S8, U16, U32, S32, U64>(face)) return *number;
   if (double const* const number = heldAs<double>(face); number && std::isfinite(*number))
     return *number;
@@ -90,7 +82,7 @@ Json jsonOf(GenericIf& face) {
   std::string const text = textOf(face.strRep());
   bool const none = text == "None" && !isText(*face.type()) && !face.type()->isValue();
   if (none) return nullptr;
-  return isObject(*face.type()) ? Json(jsonText(text)) : valueOf(face);
+  return isObject(*face.type()) ? Json(jsonText(text)) : valueJson(face);
 }
 
 Json jsonAt(Place const& place, Roots const& roots) {

@@ -1,7 +1,6 @@
 // The roots of the built-in slice, and what may be called on them.
 #include "tools/kestrel/model/Model.h"
 
-#include "Mox/Builtin.h"
 #include "Mox/Dir.h"
 #include "tools/kestrel/Refusal.h"
 #include "tools/kestrel/UsageFault.h"
@@ -40,8 +39,7 @@ void refuseReport(XpSystem::ChipStatus const& status, MoxAttr const& operation,
   auto const report = reportOf(nameOf(operation));
   if (!report) return;
   if (arguments.empty()) return refuseWhatStops(*report, status);
-  auto const type = Mox::Builtin<U32>::_fwkType();
-  U32 const tableId = *static_cast<U32 const*>(arguments.front()->voidPtrIs(type));
+  U32 const tableId = *heldAs<U32>(*arguments.front());
   if (!status.tableContext(tableId))
     throw UsageFault("the chip has no table " + std::to_string(tableId));
   refuseWhatStops(*report, status, tableId);

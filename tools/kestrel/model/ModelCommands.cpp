@@ -1,5 +1,4 @@
 // The commands on paths into the model: nothing here knows its types.
-#include "Mox/Builtin.h"
 #include "tools/kestrel/BringUp.h"
 #include "tools/kestrel/Commands.h"
 #include "tools/kestrel/model/Call.h"
@@ -7,18 +6,12 @@
 #include "tools/kestrel/model/ModelSession.h"
 #include "tools/kestrel/model/PlainText.h"
 #include "tools/kestrel/model/Show.h"
+#include "tools/kestrel/model/Tree.h"
 #include "tools/kestrel/model/Watch.h"
 
 #include <ostream>
 
 namespace kestrel {
-
-ModelSession::ModelSession(Request const& request)
-    : chip_(chipFor(request)), insight_(request.insight) {
-  chip_.bringUp();
-  model_.emplace(chip_);
-  paths_.emplace(model_->roots());
-}
 
 namespace {
 

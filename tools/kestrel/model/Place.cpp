@@ -43,9 +43,8 @@ std::vector<std::string> keysOf(Place const& place) {
 }
 
 bool isMember(Place const& place, GenericIf::PtrConst const& key) {
-  auto const answer =
-      place.holder->attributeOp({place.attribute->id(), GenericIf::opIsMember}, key);
-  return plainText(*answer) == "True";
+  return *heldAs<bool>(
+      *place.holder->attributeOp({place.attribute->id(), GenericIf::opIsMember}, key));
 }
 
 /// Writes what stands there; for a field the value that it stands in.
@@ -134,8 +133,8 @@ Place Paths::attributeAt(Place const& place, std::string const& name) const {
   if (isNull(*place.face)) throw faultAt(place.path, "None has no attributes");
   MoxAttr const* const attribute = attributeOf(*place.face->type(), name);
   if (!attribute) throw unknown(place, name, "no such attribute");
-  bool const scalar = !isOperation(*attribute) && !isCollection(*attribute);
-  Kind const kind = isOperation(*attribute) ? Kind::operation : Kind::collection;
+  bool const scalar = !attribute->isOperation() && !isCollection(*attribute);
+  Kind const kind = attribute->isOperation() ? Kind::operation : Kind::collection;
   Place made = placeBelow(place, scalar ? Kind::scalar : kind, name);
   made.holder = place.face;
   made.attribute = attribute;

@@ -1,7 +1,6 @@
 // Quotes come and go here, and percent signs.
 #include "tools/kestrel/model/PlainText.h"
 
-#include "Mox/Builtin.h"
 #include "Mox/Strep.h"
 #include "tools/kestrel/UsageFault.h"
 
@@ -37,8 +36,7 @@ char byteOf(std::string_view text, std::string_view step) {
 
 std::string plainText(GenericIf const& value) {
   MoxType const* const type = value.type();
-  if (type == Mox::Builtin<Mox::String8>::_fwkType())
-    return textOf(*static_cast<Mox::String8 const*>(value.voidPtrIs(type)));
+  if (auto const* const held = heldAs<Mox::String8>(value)) return textOf(*held);
   if (type == Mox::Name::_fwkType())
     return textOf(static_cast<Mox::Name const*>(value.voidPtrIs(type))->stringValue());
   std::string const text = textOf(value.strRep());

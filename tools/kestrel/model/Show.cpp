@@ -17,7 +17,7 @@ void printAttribute(GenericIf& face, MoxAttr const& attribute, std::ostream& out
   auto const line = [&](std::string const& text) {
     out << nameOf(attribute) << ": " << text << '\n';
   };
-  if (isOperation(attribute))
+  if (attribute.isOperation())
     line(operationText(attribute));
   else if (isCollection(attribute))
     line(countText(face, attribute));

@@ -2,6 +2,7 @@
 #include "tools/kestrel/model/FaceJson.h"
 #include "tools/kestrel/model/Show.h"
 #include "tools/kestrel/model/TestModel.h"
+#include "tools/kestrel/model/Tree.h"
 
 namespace kestrel {
 

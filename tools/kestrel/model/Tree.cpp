@@ -1,4 +1,6 @@
-// Entities below one another.
+// Level by level.
+#include "tools/kestrel/model/Tree.h"
+
 #include "tools/kestrel/model/PlainText.h"
 #include "tools/kestrel/model/Show.h"
 
@@ -18,7 +20,7 @@ class Tree {
     for (MoxAttr const* const attribute : attributesOf(*face.type()))
       if (isCollection(*attribute))
         collection(face, *attribute, depth);
-      else if (isOwned(*attribute) && depth > 0)
+      else if (attribute->isInstantiating() && depth > 0)
         child(nameOf(*attribute), *read(face, *attribute), depth);
     --level_;
   }
@@ -26,7 +28,7 @@ class Tree {
   /// Its elements stand below if they belong to it.
   void collection(GenericIf& face, MoxAttr const& attribute, U32 depth) {
     line(nameOf(attribute) + " " + countText(face, attribute));
-    if (!isOwned(attribute) || depth == 0) return;
+    if (!attribute.isInstantiating() || depth == 0) return;
     ++level_;
     for (auto at = face.attributeIteratorConst(attribute.id()); at; ++at)
       child(encoded(plainText(*at.key())), *at.obj(), depth);
