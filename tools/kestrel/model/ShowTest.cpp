@@ -68,6 +68,13 @@ TEST_F(ShowTest, TheTreeShowsWhatIsOwnedAndCountsCollections) {
             "  xpSerdesConfig Kestrel::XpSerdesSmConfig\n");
 }
 
+TEST_F(ShowTest, TheRootsAreShownAtEachDepth) {
+  EXPECT_EQ(tree("/", 0), tree("/", 1));
+  EXPECT_THAT(tree("/", 0), testing::StartsWith("slice0 Kestrel::SliceHwStatus\n"
+                                                "  chipStatus {1 element}\n"
+                                                "slice0Config Kestrel::SliceHwConfig\n"));
+}
+
 TEST_F(ShowTest, NoTreeWithoutEntities) {
   EXPECT_EQ(tree(port + "/portMode", 1),
             "! \"" + port + "/portMode\": no entity stands there: 'portMode100G'");

@@ -4,6 +4,7 @@
 #include "tools/kestrel/model/PlainText.h"
 #include "tools/kestrel/model/Show.h"
 
+#include <algorithm>
 #include <ostream>
 
 namespace kestrel {
@@ -35,6 +36,7 @@ class Tree {
     --level_;
   }
 
+  /// `depth` isn't 0: the child takes a level.
   void child(std::string const& name, GenericIf& face, U32 depth) {
     if (!isNull(face)) entity(name, face, depth - 1);
   }
@@ -53,7 +55,8 @@ std::string lastStep(std::string const& path) { return path.substr(path.rfind('/
 void printTree(Place const& place, Roots const& roots, U32 depth, std::ostream& out) {
   Tree tree(out);
   if (place.kind == Place::Kind::top)
-    for (Root const& root : roots) tree.child(encoded(root.name), *root.face, depth);
+    for (Root const& root : roots)
+      tree.child(encoded(root.name), *root.face, std::max(depth, U32{1}));
   else if (place.kind == Place::Kind::collection)
     tree.collection(*place.holder, *place.attribute, depth);
   else if (place.isObject())
