@@ -47,7 +47,7 @@ TEST_F(CallTest, ArgumentsAreCountedAndRead) {
   EXPECT_EQ(called("/tableCliHelper", "displaySingleDynamicTableSummary", {"0", "0"}),
             at + "it takes (tableId U32) -> Mox::String, and 2 are given");
   EXPECT_EQ(called("/tableCliHelper", "displaySingleDynamicTableSummary", {"-1"}),
-            at + "tableId: column 0: expected unsigned long long, found '-1'");
+            at + "tableId: no U32 \"-1\" (column 0: expected unsigned long long, found '-1')");
 }
 
 TEST_F(CallTest, MemoryOfOthersCantBeGiven) {

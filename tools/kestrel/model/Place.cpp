@@ -48,10 +48,26 @@ bool isMember(Place const& place, GenericIf::PtrConst const& key) {
 }
 
 /// Writes what stands there; for a field the value that it stands in.
-void write(Place const& place, GenericIf::Ptr const& value) {
+void put(Place const& place, GenericIf::Ptr const& value) {
   place.holder->attributeOp({place.attribute->id(), GenericIf::opWrite}, place.key, value);
   // The holder of a field is a copy of the value that stands in the place above.
-  if (place.holder->type()->isValue()) write(*place.above, place.holder);
+  if (place.holder->type()->isValue()) put(*place.above, place.holder);
+}
+
+void write(Place const& place, GenericIf::Ptr const& value) {
+  try {
+    put(place, value);
+  } catch (Mox::OpNotSupportedException const& fault) {
+    throw faultAt(place.path, "it can't be set (" + textOf(fault.message()) + ")");
+  }
+}
+
+UsageFault unreadable(Place const& place) { return faultAt(place.path, "it can't be read"); }
+
+/// What else could be given for a value of the type; empty for most.
+std::string alternatives(MoxType const& type) {
+  if (type.isEnumType()) return "; " + listed(enumeratorsOf(type));
+  return isObject(type) ? "; a path to one or None is wanted" : "";
 }
 
 }  // namespace
@@ -86,7 +102,7 @@ Place Paths::at(std::string const& path) const {
 Place Paths::requireAt(std::string const& path) const {
   Place const place = at(path);
   if (place.kind == Kind::element && !place.face) throw absent(place);
-  if (place.kind == Kind::scalar && !place.face) throw faultAt(place.path, "it can't be read");
+  if (place.kind == Kind::scalar && !place.face) throw unreadable(place);
   return place;
 }
 
@@ -129,9 +145,11 @@ Place Paths::rootAt(Place const& top, std::string const& name) const {
 
 Place Paths::attributeAt(Place const& place, std::string const& name) const {
   if (place.kind == Kind::operation) throw faultAt(place.path, "an operation has no parts");
-  if (!place.face) throw faultAt(place.path, "it can't be read");
+  if (!place.face) throw unreadable(place);
   if (isNull(*place.face)) throw faultAt(place.path, "None has no attributes");
   MoxAttr const* const attribute = attributeOf(*place.face->type(), name);
+  if (!attribute && attributesOf(*place.face->type()).empty())
+    throw faultAt(place.path, nameOf(*place.face->type()) + " has no parts");
   if (!attribute) throw unknown(place, name, "no such attribute");
   bool const scalar = !attribute->isOperation() && !isCollection(*attribute);
   Kind const kind = attribute->isOperation() ? Kind::operation : Kind::collection;
@@ -161,15 +179,15 @@ GenericIf::Ptr valueOf(Paths const& paths, MoxType const& type, std::string cons
   try {
     return fromText(type, text);
   } catch (Mox::RangeException const& complaint) {
-    if (!type.isEnumType()) throw;
-    throw Mox::RangeException(complaint.message() +
-                              Mox::String8("; " + listed(enumeratorsOf(type))));
+    throw Mox::RangeException(complaint.message() + Mox::String8(alternatives(type)));
   }
 }
 
 void set(Paths const& paths, Place const& place, std::string const& text) {
   if (!place.attribute) throw faultAt(place.path, "it stands for itself and can't be set");
   if (place.kind == Kind::operation) throw faultAt(place.path, "an operation can't be set");
+  if (place.attribute->isInstantiating())
+    throw faultAt(place.path, "what its owner makes can't be set");
   bool const keyIsMissing = place.kind == Kind::collection && place.attribute->keyAttr().empty();
   if (keyIsMissing) throw faultAt(place.path, "a key must follow");
   askedAt(place.path, [&] { write(place, valueOf(paths, *place.attribute->type(), text)); });

@@ -76,7 +76,7 @@ class Paths {
 };
 
 /// The value of that type and text (PlainText.h); an entity's may be the path to it, too.  Raises
-/// what the type's own parser does, of an enumeration with the names that it has.
+/// `RangeException` as there, for an enumeration with the names that it has.
 GenericIf::Ptr valueOf(Paths const& paths, MoxType const& type, std::string const& text);
 
 /// Sets what stands there, a field in the value that it stands in, to the value of that text.

@@ -51,8 +51,7 @@ TEST_F(PlaceTest, WhatIsUnknownSaysWhatExists) {
   EXPECT_EQ(line("/slice"),
             "! \"/slice\": no such root; there are slice0, slice0Config, chip0, chip0Config, "
             "chip0Device, chip0Tables, phyConfigs, phyStatuses and 6 more");
-  EXPECT_EQ(line(port + "/portMode/x"),
-            "! \"" + port + "/portMode/x\": no such attribute; there is none");
+  EXPECT_EQ(line(port + "/portMode/x"), "! \"" + port + "/portMode\": XpPortMode has no parts");
   EXPECT_EQ(line("/chip0Config/chipHwConfig/resetPlls/1"),
             "! \"/chip0Config/chipHwConfig/resetPlls/1\": no such element; there is none");
 }
@@ -60,8 +59,12 @@ TEST_F(PlaceTest, WhatIsUnknownSaysWhatExists) {
 TEST_F(PlaceTest, AKeyThatCantBeOneSaysWhy) {
   EXPECT_THAT(line("/slice0/chipStatus/chip0/portStatus/133"),
               testing::StartsWith("! \"/slice0/chipStatus/chip0/portStatus/133\": "
-                                  "XpPortId::value < 0 or > 132 not allowed; there are "));
-  EXPECT_EQ(line("/slice0/%2"), "! \"%2\": a \"%\" needs two hexadecimal digits");
+                                  "no XpPortId \"133\" (XpPortId::value < 0 or > 132 not "
+                                  "allowed); there are "));
+  EXPECT_THAT(line("/slice0/chipStatus/chip0/portStatus/x"),
+              testing::HasSubstr("/x\": no XpPortId \"x\" (attribute 'value': column 0: expected "
+                                 "long long, found 'x'); there are "));
+  EXPECT_EQ(line("/slice0/%2/x"), "! \"/slice0/%2/x\": a \"%\" needs two hexadecimal digits");
 }
 
 TEST_F(PlaceTest, NothingStandsBelowNone) {
@@ -128,22 +131,37 @@ TEST_F(PlaceTest, WhatIsRefusedChangesNothing) {
   EXPECT_EQ(
       afterSet(port + "/portMode", "40G"),
       "! \"" + port +
-          "/portMode\": XpPortMode; there are portModeDisabled, portMode1GBaseX, "
+          "/portMode\": no XpPortMode \"40G\"; there are portModeDisabled, portMode1GBaseX, "
           "portMode1GBaseR, portMode1G, portMode10G, portMode25G, portMode40G, portMode40G2 and "
           "2 more");
   EXPECT_EQ(line(port + "/portMode"), "'portMode100G'");
   EXPECT_EQ(afterSet(phy + "/cursors/atten", "128"),
-            "! \"" + phy + "/cursors/atten\": column 0: 128 is out of range");
+            "! \"" + phy + "/cursors/atten\": no S8 \"128\" (column 0: 128 is out of range)");
   EXPECT_EQ(afterSet(phy + "/signalOk", "2"),
-            "! \"" + phy + "/signalOk\": U1::value < 0 or > 0x01 not allowed");
+            "! \"" + phy + "/signalOk\": no U1 \"2\" (U1::value < 0 or > 0x01 not allowed)");
   EXPECT_EQ(line(phy + "/signalOk"), "1");
-  EXPECT_EQ(afterSet("/chip0/tableContextEntry/0", "None"),
-            "! \"/chip0/tableContextEntry/0\": 'tableContextEntry' does not support operation 128");
+}
+
+TEST_F(PlaceTest, ARefusedReferenceSaysWhatIsWanted) {
+  EXPECT_EQ(afterSet(port + "/phyStatus", "x"),
+            "! \"" + port +
+                "/phyStatus\": no PhyXp80Status \"x\" (column 0: expected 'Entity', found 'x'); a "
+                "path to one or None is wanted");
+}
+
+TEST_F(PlaceTest, WhatItsOwnerMakesIsNotSet) {
+  std::string const complaint = "what its owner makes can't be set";
+  for (std::string const path : {"/slice0/chipStatus", "/slice0/chipStatus/chip0",
+                                 "/chip0/tableContextEntry/0", "/chip0/tableContextEntry/99"})
+    EXPECT_EQ(afterSet(path, "x"), "! \"" + path + "\": " + complaint);
+  EXPECT_EQ(afterSet(phy + "/fecCounters", "None"), "! \"" + phy + "/fecCounters\": " + complaint);
 }
 
 TEST_F(PlaceTest, ConstantsAreNotSet) {
-  EXPECT_EQ(afterSet(port + "/portId", "3"),
-            "! \"" + port + "/portId\": 'portId' does not support operation 128");
+  std::string const unsettable = "it can't be set ('portId' does not support operation 128)";
+  EXPECT_EQ(afterSet(port + "/portId", "3"), "! \"" + port + "/portId\": " + unsettable);
+  EXPECT_EQ(afterSet(port + "/portId/value", "3"),
+            "! \"" + port + "/portId/value\": " + unsettable);
   EXPECT_EQ(afterSet("/chip0Tables/tableContext/0/tableType", "3"),
             "! \"/chip0Tables/tableContext/0/tableType\": attempting to modify a const instance");
   EXPECT_EQ(afterSet("/slice0", "None"), "! \"/slice0\": it stands for itself and can't be set");

@@ -2,7 +2,6 @@
 #include "tools/kestrel/model/PlainText.h"
 
 #include "Mox/Strep.h"
-#include "tools/kestrel/UsageFault.h"
 
 #include <algorithm>
 #include <charconv>
@@ -23,13 +22,26 @@ bool standsForItself(unsigned char byte) {
 }
 
 /// The byte of the two digits in front of `text`.
-char byteOf(std::string_view text, std::string_view step) {
+char byteOf(std::string_view text) {
   unsigned byte = 0;
   char const* const end = text.data() + std::min<std::size_t>(text.size(), 2);
   auto const read = std::from_chars(text.data(), end, byte, 16);
   if (read.ec != std::errc() || read.ptr != text.data() + 2)
-    throw UsageFault('"' + std::string(step) + "\": a \"%\" needs two hexadecimal digits");
+    throw Mox::RangeException("a \"%\" needs two hexadecimal digits");
   return static_cast<char>(byte);
+}
+
+/// The value of the text form, for which the user has typed `text`.
+GenericIf::Ptr parsed(MoxType const& type, Mox::String8 const& form, std::string const& text) {
+  try {
+    return type.genericIf(form, false);
+  } catch (Mox::RangeException const& fault) {
+    std::string complaint = "no " + nameOf(type) + " \"" + text + '"';
+    // Enumerations complain of a name with nothing but their own.
+    bool const saysMore = textOf(fault.message()) != nameOf(type);
+    if (saysMore) complaint += " (" + textOf(fault.message()) + ")";
+    throw Mox::RangeException(Mox::String8(complaint));
+  }
 }
 
 }  // namespace
@@ -47,11 +59,11 @@ std::string plainText(GenericIf const& value) {
 GenericIf::Ptr fromPlainText(MoxType const& type, std::string const& text) {
   Mox::String8 const given(text);
   bool const quoted = isText(type) || type.isEnumType();
-  return type.genericIf(quoted ? Mox::valueToStrep(given) : given, false);
+  return parsed(type, quoted ? Mox::valueToStrep(given) : given, text);
 }
 
 GenericIf::Ptr fromText(MoxType const& type, std::string const& text) {
-  return beginsQuoted(text) ? type.genericIf(Mox::String8(text), false) : fromPlainText(type, text);
+  return beginsQuoted(text) ? parsed(type, Mox::String8(text), text) : fromPlainText(type, text);
 }
 
 std::string encoded(std::string_view name) {
@@ -70,7 +82,7 @@ std::string decoded(std::string_view step) {
   std::string name;
   for (std::size_t at = 0; at < step.size(); ++at) {
     bool const code = step[at] == '%';
-    name += code ? byteOf(step.substr(at + 1), step) : step[at];
+    name += code ? byteOf(step.substr(at + 1)) : step[at];
     if (code) at += 2;
   }
   return name;

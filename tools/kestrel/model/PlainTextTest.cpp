@@ -28,6 +28,24 @@ TEST(PlainTextTest, QuotedTextsAreReadAsTextForms) {
   EXPECT_THROW(readBack(*Mox::Builtin<Mox::String8>::_fwkType(), "'a"), Mox::RangeException);
 }
 
+/// The complaint about the text.
+std::string refused(MoxType const& type, std::string const& text) {
+  try {
+    fromText(type, text);
+  } catch (Mox::RangeException const& complaint) {
+    return textOf(complaint.message());
+  }
+  return "";
+}
+
+TEST(PlainTextTest, ARefusedTextNamesTheTypeAndWhatTheParserSays) {
+  EXPECT_EQ(refused(*Kestrel::_fwkType_DfeMode(), "half"), "no DfeMode \"half\"");
+  EXPECT_EQ(refused(*Mox::Builtin<U8>::_fwkType(), "256"),
+            "no U8 \"256\" (column 0: 256 is out of range)");
+  EXPECT_EQ(refused(*Mox::Builtin<bool>::_fwkType(), "'no"),
+            R"(no bool "'no" (column 0: expected bool, found '\'no'))");
+}
+
 TEST(PlainTextTest, APlainTextIsReadAsItStands) {
   auto const& type = *Mox::Builtin<Mox::String8>::_fwkType();
   for (std::string const text : {"", "'", "'a'", "\"", "a/b", "\\n", "\xFF\x01"})
@@ -58,7 +76,7 @@ TEST(PlainTextTest, OtherBytesOfAStepStandForThemselves) {
 
 TEST(PlainTextTest, APercentSignNeedsTwoDigits) {
   for (char const* const step : {"%", "a%2", "%2G", "%G2", "%+1", "%-1", "%0x"})
-    EXPECT_THROW(decoded(step), UsageFault) << step;
+    EXPECT_THROW(decoded(step), Mox::RangeException) << step;
 }
 
 }  // namespace
