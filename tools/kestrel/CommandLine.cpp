@@ -39,6 +39,11 @@ std::string fullName(CLI::App const& command) {
   return parent ? fullName(*parent) + " " + command.get_name() : command.get_name();
 }
 
+bool takesWords(CLI::App const& command) {
+  return !command.get_options([](CLI::Option const* option) { return option->get_positional(); })
+              .empty();
+}
+
 // One line, whatever bytes the user's words hold.
 void complain(std::string const& complaint) {
   std::cerr << "kestrel: error: " << xdksim::printable(complaint, complaint.size()) << '\n';
@@ -56,8 +61,10 @@ std::string faultOf(CLI::App const& app, CLI::ParseError const& fault) {
   if (!unknown.empty()) {
     std::string const& word = unknown.front();
     bool const misplaced = named.get_option_no_throw(word) != nullptr;
-    return misplaced ? inQuotes(word) + " must stand behind " + command
-                     : command + " takes no " + inQuotes(word);
+    if (misplaced) return inQuotes(word) + " must stand behind " + command;
+    bool const meantAsValue = word.starts_with('-') && takesWords(named);
+    return command + " takes no " + inQuotes(word) +
+           (meantAsValue ? "; what begins with \"-\" and is no option stands behind \"--\"" : "");
   }
   return fault.what();
 }
