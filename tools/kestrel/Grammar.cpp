@@ -115,8 +115,8 @@ void addTable(CLI::App& command, Request& request, char const* help) {
   addNumber(command, "--table", "ID", "table id", help, request.tableId);
 }
 
-void addJson(CLI::App& command, Request& request) {
-  command.add_flag("--json", request.json, "As JSON");
+CLI::Option& addJson(CLI::App& command, Request& request) {
+  return *command.add_flag("--json", request.json, "As JSON");
 }
 
 void addPictures(CLI::App& command, Request& request) {
@@ -207,8 +207,8 @@ void addChanging(CLI::App& app, Request& request) {
   addPath(called, request, "The object", true);
   called.add_option("OPERATION", request.operation, "Its operation")->required()->type_name("");
   called.add_option("ARGS", request.words, "The operation's arguments, as texts")->type_name("");
-  called.add_flag("--log", request.log, "Show each call of the SDK, and each table, ahead of it");
-  addJson(called, request);
+  called.add_flag("--log", request.log, "Show each call of the SDK, and each table, ahead of it")
+      ->excludes(&addJson(called, request));
   addChip(called, request);
 }
 
@@ -219,8 +219,8 @@ void addWatch(CLI::App& app, Request& request) {
   command.add_option("PATH", request.words, "Entities, attributes, elements or fields")
       ->required()
       ->type_name("");
-  addNumber(command, "--seed", "N", "seed", "Another life than that of seed 1", request.seed);
-  addNumber(command, "--steps", "N", "number of steps", "So much happens; 100 unless given",
+  addNumber(command, "--seed", "N", "seed", "Seed of what happens; 1 unless given", request.seed);
+  addNumber(command, "--steps", "N", "number of steps", "How many things happen; 100 unless given",
             request.steps);
   command.add_flag("--batch", request.batch,
                    "Tell of each step in a batch: of several elements of a collection at once");

@@ -18,10 +18,8 @@ namespace {
 void printJson(Json const& json, std::ostream& out) { out << json.dump(1) << '\n'; }
 
 /// A text result stands as it is, as reports do.
-void printResult(GenericIf& result, bool json, std::ostream& out) {
-  if (json)
-    printJson(jsonOf(result), out);
-  else if (isText(*result.type()))
+void printResult(GenericIf& result, std::ostream& out) {
+  if (isText(*result.type()))
     out << plainText(result);
   else
     print(result, out);
@@ -66,7 +64,10 @@ ExitStatus call(Request const& request, std::ostream& out) {
     printCalls(session.chip(), out, perform);
   else
     perform();
-  if (result) printResult(*result, request.json, out);
+  if (request.json)
+    printJson(result ? jsonOf(*result) : nullptr, out);
+  else if (result)
+    printResult(*result, out);
   return success;
 }
 
