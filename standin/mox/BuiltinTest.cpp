@@ -151,7 +151,7 @@ TEST(BuiltinTest, TypesHaveTheNamesOfSchemas) {
 }
 
 TEST(BuiltinTest, NothingHasNoInterface) {
-  int nothing = 0;
+  Mox::PtrInterface const* const nothing = nullptr;
   EXPECT_EQ(complaint<Mox::OpNotSupportedException>(
                 [&] { Builtin<void>::_fwkType()->genericIf(&nothing, false); }),
             "'void' has no access by number");

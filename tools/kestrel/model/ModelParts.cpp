@@ -126,6 +126,10 @@ ModelParts::ModelParts(Chip const& up)
   layCoprocessor(*this);
 }
 
+ModelParts::~ModelParts() {
+  for (auto at = phyStatuses->phyStatusIterator(); at; ++at) at.value()->lanePhyStatusDelAll();
+}
+
 Kestrel::PortHwStatus::Ptr ModelParts::layPort(U8 lane) const {
   auto const port = hardware()->portStatusIs(XpPortId(lane));
   port->intfNameIs(interfaceName(lane));

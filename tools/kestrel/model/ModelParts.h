@@ -25,6 +25,10 @@ Kestrel::XpPortMode modeOf(U8 lane);
 struct ModelParts {
   /// The slice, laid out.
   explicit ModelParts(Chip const& chip);
+  /// Lanes of a cage refer to each other and to themselves, which would keep them for good.
+  ~ModelParts();
+  ModelParts(ModelParts const&) = delete;
+  ModelParts& operator=(ModelParts const&) = delete;
 
   Kestrel::PortHwStatus::Ptr layPort(U8 lane) const;
   Kestrel::ChipHwStatus::Ptr hardware() const { return slice->chipStatus("chip0"); }
