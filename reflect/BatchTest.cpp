@@ -404,6 +404,14 @@ TEST_F(BatchTest, TurnedToAnotherEntityItForgetsWhatItNoted) {
   EXPECT_EQ(run(), "");
 }
 
+// It lost what it had noted.
+TEST_F(BatchTest, TurnedToItsOwnEntityItForgetsNothing) {
+  batched();
+  entity->levelIs(1);
+  face->notifierIs(entity);
+  EXPECT_EQ(run(), "259;");
+}
+
 TEST_F(BatchTest, ASwitchedOffInterfaceNotesNothing) {
   batched();
   face->hasNotificationActiveIs(false);

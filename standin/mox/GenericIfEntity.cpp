@@ -18,12 +18,13 @@ GenericIfEntity::GenericIfEntity(Mox::Ptr<Entity> const& entity, MoxType const* 
 GenericIfEntity::~GenericIfEntity() { isWeakReferenceIs(false); }
 
 void GenericIfEntity::notifierIs(Mox::Ptr<PtrInterface const> const& notifier) {
+  bool const another = notifier && notifier.ptr() != moxNotifier();
   bool const weak = isWeakReference();
   isWeakReferenceIs(false);
   GenericIf::notifierIs(ptrCast<Entity const>(notifier));
   isWeakReferenceIs(weak);
-  moxRegisteredIs(false);                 // only its adapters stand in the entity's list
-  if (notifier) notification_ = nothing;  // what is noted is of another entity
+  moxRegisteredIs(false);                // only its adapters stand in the entity's list
+  if (another) notification_ = nothing;  // what is noted is of the former one
 }
 
 void GenericIfEntity::hasNotificationActiveIs(bool active) {
