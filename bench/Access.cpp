@@ -31,11 +31,6 @@ constexpr Mox::AttributeId fecCorrected = 258;
 struct Counters {
   Kestrel::FecCounters::Ptr entity = new Kestrel::FecCounters("fec0");
   GenericIf::Ptr face = entity->fwkType()->genericIf_(entity.ptr(), false);
-  Mox::Ptr<Mox::MoxType const> const number = Mox::Builtin<U32>::_fwkType();
-
-  U32 valueOf(GenericIf::Ptr const& read) const {
-    return *static_cast<U32 const*>(read->voidPtrIs(number));
-  }
 };
 
 void floorRead(benchmark::State& state) {
@@ -64,7 +59,7 @@ void readByNumber(benchmark::State& state) {
   Mox::AttributeId id = fecCorrected;
   for (auto _ : state) {
     benchmark::DoNotOptimize(id);
-    benchmark::DoNotOptimize(counters.valueOf(counters.face->attributeOp({id})));
+    benchmark::DoNotOptimize(Mox::primitiveIn<U32>(counters.face->attributeOp({id}).ptr()));
   }
 }
 BENCHMARK(readByNumber);
@@ -75,7 +70,8 @@ void writeByNumber(benchmark::State& state) {
   U32 value = 0;
   for (auto _ : state) {
     benchmark::DoNotOptimize(id);
-    counters.face->attributeOp({id, GenericIf::opWrite}, nullptr, Mox::primitiveIf(++value, false));
+    counters.face->attributeOp({id, GenericIf::opWrite}, GenericIf::notGiven,
+                               Mox::primitiveIf(++value, false));
   }
 }
 BENCHMARK(writeByNumber);
@@ -85,8 +81,8 @@ void readByName(benchmark::State& state) {
   Mox::String8 name = "fecCorrected";
   for (auto _ : state) {
     benchmark::DoNotOptimize(name);
-    benchmark::DoNotOptimize(
-        counters.valueOf(counters.face->attributeOp({counters.face->attributeId(name)})));
+    benchmark::DoNotOptimize(Mox::primitiveIn<U32>(
+        counters.face->attributeOp({counters.face->attributeId(name)}).ptr()));
   }
 }
 BENCHMARK(readByName);
@@ -97,8 +93,8 @@ void writeByName(benchmark::State& state) {
   U32 value = 0;
   for (auto _ : state) {
     benchmark::DoNotOptimize(name);
-    counters.face->attributeOp({counters.face->attributeId(name), GenericIf::opWrite}, nullptr,
-                               Mox::primitiveIf(++value, false));
+    counters.face->attributeOp({counters.face->attributeId(name), GenericIf::opWrite},
+                               GenericIf::notGiven, Mox::primitiveIf(++value, false));
   }
 }
 BENCHMARK(writeByName);
@@ -132,13 +128,11 @@ BENCHMARK(walkTyped);
 void walkByNumber(benchmark::State& state) {
   auto const tables = namedTables();
   auto const face = tables->fwkType()->genericIf_(tables.ptr(), false);
-  Mox::Ptr<Mox::MoxType const> const number = Mox::Builtin<U32>::_fwkType();
-  Mox::Ptr<Mox::MoxType const> const text = Mox::Builtin<Mox::String8>::_fwkType();
   Mox::AttributeId const id = face->attributeId("tableName");
   for (auto _ : state)
     for (auto at = face->attributeIteratorConst(id); at; ++at) {
-      benchmark::DoNotOptimize(*static_cast<U32 const*>(at.key()->voidPtrIs(number)));
-      benchmark::DoNotOptimize(static_cast<Mox::String8 const*>(at.obj()->voidPtrIs(text))->size());
+      benchmark::DoNotOptimize(Mox::primitiveIn<U32>(at.key().ptr()));
+      benchmark::DoNotOptimize(Mox::primitiveIn<Mox::String8>(at.obj().ptr()).size());
     }
   state.SetItemsProcessed(static_cast<S64>(state.iterations()) * elements);
 }
@@ -158,13 +152,11 @@ BENCHMARK(walkNamesTyped);
 void walkNamesByNumber(benchmark::State& state) {
   auto const list = listedPorts();
   auto const face = list->fwkType()->genericIf_(list.ptr(), false);
-  Mox::Ptr<Mox::MoxType const> const text = Mox::Builtin<Mox::String8>::_fwkType();
-  Mox::Ptr<Mox::MoxType const> const flag = Mox::Builtin<bool>::_fwkType();
   Mox::AttributeId const id = face->attributeId("ports");
   for (auto _ : state)
     for (auto at = face->attributeIteratorConst(id); at; ++at) {
-      benchmark::DoNotOptimize(static_cast<Mox::String8 const*>(at.key()->voidPtrIs(text))->size());
-      benchmark::DoNotOptimize(*static_cast<bool const*>(at.obj()->voidPtrIs(flag)));
+      benchmark::DoNotOptimize(Mox::primitiveIn<Mox::String8>(at.key().ptr()).size());
+      benchmark::DoNotOptimize(Mox::primitiveIn<bool>(at.obj().ptr()));
     }
   state.SetItemsProcessed(static_cast<S64>(state.iterations()) * elements);
 }

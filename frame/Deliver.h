@@ -59,12 +59,16 @@ void hookFailed(Notifiee& member, Mox::AttributeId id);
 template <class... Key>
 using Hook = void (Notifiee::*)(Key...);
 
-/// The loop of `deliver`.
+/// Calls `hook` on each member of a snapshot of `list`, in order.
+///
+/// Members that aren't of `level` are passed over (null: every member is of the right class); so
+/// are, but for the first, members that only the snapshot still holds.  A hook that throws is
+/// reported to its own notifiee as `onNotificationException(id)` and the others still run; what
+/// that throws ends the delivery and passes on.
 template <class... Key>
-[[gnu::always_inline]] inline void deliverToAll(Mox::BaseCollection const& list,
-                                                Mox::AttributeId id,
-                                                Mox::NotifieeLevel const* level, Hook<Key...> hook,
-                                                Key const&... key) {
+[[gnu::noinline]] void deliver(Mox::BaseCollection const& list, Mox::AttributeId id,
+                               Mox::NotifieeLevel const* level, Hook<Key...> hook,
+                               Key const&... key) {
   Snapshot::Room room;
   Snapshot members(list, room);
   Mox::Expect const nothing(0);
@@ -79,20 +83,6 @@ template <class... Key>
     }
     nothing.close();
   }
-}
-
-/// Calls `hook` on each member of a snapshot of `list`, in order; on nobody where none of them
-/// hears.
-///
-/// Members that aren't of `level` are passed over (null: every member is of the right class); so
-/// are, but for the first, members that only the snapshot still holds.  A hook that throws is
-/// reported to its own notifiee as `onNotificationException(id)` and the others still run; what
-/// that throws ends the delivery and passes on.
-template <class... Key>
-[[gnu::noinline]] void deliver(Mox::BaseCollection const& list, Mox::AttributeId id,
-                               Mox::NotifieeLevel const* level, Hook<Key...> hook,
-                               Key const&... key) {
-  if (list.anyHears()) deliverToAll<Key...>(list, id, level, hook, key...);
 }
 
 extern template void deliver<>(Mox::BaseCollection const&, Mox::AttributeId,

@@ -20,7 +20,7 @@ void Arguments::take(std::span<Argument const> wanted, char const* name) {
   for (auto const& entry : entries_) {
     if (held_.size() == wanted.size()) GenericIf::throwUnknownArgException(name);
     Argument const& argument = wanted[held_.size()];
-    held_.push_back(GenericIf::requireHeld(entry.value(), argument.type(), argument.name));
+    held_.push_back(GenericIf::requireHeld(entry.value().ptr(), argument.type(), argument.name));
   }
 }
 
@@ -46,17 +46,18 @@ void assignFields(std::span<Row const> rows, GenericIf::PtrConst const& list, vo
                   char const* type) {
   List::Entries entries;
   List::entriesOf(list, entries);
-  std::vector<std::pair<Row const*, void const*>> assigned;
+  std::vector<std::pair<Row const*, GenericIf::PtrConst>> assigned;
   auto entry = entries.begin();
   for (Row const& row : rows) {
     if (entry == entries.end()) break;
     if (!row.write) continue;
-    assigned.emplace_back(&row, GenericIf::requireHeld((*entry).value(), row.type(), row.name));
+    GenericIf::requireHeld((*entry).value().ptr(), row.type(), row.name);
+    assigned.emplace_back(&row, (*entry).value());
     ++entry;
   }
   if (entry != entries.end()) GenericIf::throwUnknownArgException(type);
   // A bound is checked last of all.
-  for (auto const& [row, value] : assigned) row->write(record, value);
+  for (auto const& [row, value] : assigned) row->write(*row, record, value);
 }
 
 }  // namespace reflect

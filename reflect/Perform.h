@@ -9,23 +9,44 @@ namespace reflect {
 [[noreturn]] void nullObject(GenericIf const& face);
 
 /// The rest of `perform`.
-GenericIf::Ptr performOther(Row const& row, Target const& target, GenericIf::OpId op,
+GenericIf::Ptr performOther(Row const& row, void* object, GenericIf const& face, GenericIf::OpId op,
                             GenericIf::PtrConst const& index, GenericIf::PtrConst const& value);
 
 /// Does what `op` asks of the attribute of `row`; for what is raised see `GenericIf::attributeOp`.
 /// An operation of an object is called by `opWrite`: `value` holds its argument, a `List_` where
 /// there are several; one that is missing raises `TypeException` with its name.
 // Inline is what is asked most: to read and write a scalar.
-inline GenericIf::Ptr perform(Row const& row, Target const& target, GenericIf::OpId op,
-                              GenericIf::PtrConst const& index, GenericIf::PtrConst const& value) {
+inline GenericIf::Ptr perform(Row const& row, void* object, GenericIf const& face,
+                              GenericIf::OpId op, GenericIf::PtrConst const& index,
+                              GenericIf::PtrConst const& value) {
   if (index) [[unlikely]]
-    return performOther(row, target, op, index, value);
-  if (op == GenericIf::opRead && row.read) return row.read(target.object, target.isConst, row.type);
+    return performOther(row, object, face, op, index, value);
+  if (op == GenericIf::opRead && row.read) return row.read(row, object, face);
   if (op == GenericIf::opWrite && row.write) {
-    row.write(target.object, GenericIf::requireHeld(value, row.type(), row.name));
+    row.write(row, object, value);
     return nullptr;
   }
-  return performOther(row, target, op, index, value);
+  return performOther(row, object, face, op, index, value);
+}
+
+template <class Table, class Face>
+[[gnu::noinline]] GenericIf::Ptr performSearched(Face& face, GenericIf::AttributeOp op,
+                                                 GenericIf::PtrConst const& index,
+                                                 GenericIf::PtrConst const& value) {
+  Row const* const row = rowOf(Table::rows, op.attrId);
+  if (!row) return Table::performUnknown(face, op, index, value);
+  return perform(*row, Table::objectOf(face), face, op.opId, index, value);
+}
+
+/// `attributeOp` of an interface whose class has that table: its rows, the object that they are
+/// about, and what becomes of numbers that aren't there.
+template <class Table, class Face>
+GenericIf::Ptr performBy(Face& face, GenericIf::AttributeOp op, GenericIf::PtrConst const& index,
+                         GenericIf::PtrConst const& value) {
+  Row const* const row = placedRow(Table::rows, op.attrId);
+  if (!row) [[unlikely]]
+    return performSearched<Table>(face, op, index, value);
+  return perform(*row, Table::objectOf(face), face, op.opId, index, value);
 }
 
 /// The same for an attribute of the base of a value's type, of which `held` is the base's part; one
@@ -33,18 +54,18 @@ inline GenericIf::Ptr perform(Row const& row, Target const& target, GenericIf::O
 GenericIf::Ptr performInBase(GenericIf const& face, void const* held, GenericIf::AttributeOp op,
                              GenericIf::PtrConst const& index, GenericIf::PtrConst const& value);
 
-/// The object of an interface as its rows' steps want it; raises `RangeException` "null <type>" for
-/// null.
+/// What the interface of an `X` observes; raises `RangeException` "null <type>" for nothing.
 template <class X>
-Target targetOf(Mox::PtrInterface* object, GenericIf const& face) {
+X* observed(GenericIf const& face) {
+  auto* const object = const_cast<Mox::PtrInterface*>(face.moxNotifier());
   if (!object) [[unlikely]]
     nullObject(face);
-  return {static_cast<X*>(object), object, face.isConst()};
+  return static_cast<X*>(object);
 }
 
 /// A walk over the collection of `row`, from the start or from `key` on.
-GenericIf::AttributeIteratorConst walk(GenericIf const& face, Row const& row, Target const& target);
-GenericIf::AttributeIteratorConst walk(GenericIf const& face, Row const& row, Target const& target,
+GenericIf::AttributeIteratorConst walk(GenericIf const& face, Row const& row, void* object);
+GenericIf::AttributeIteratorConst walk(GenericIf const& face, Row const& row, void* object,
                                        GenericIf::PtrConst const& key);
 
 }  // namespace reflect

@@ -10,27 +10,23 @@ namespace reflect {
 
 using Mox::GenericIf;
 
-/// Whose attribute is asked for: an entity, an object, or the copy that a value's interface holds.
-struct Target {
-  void* object;
-  /// What keeps the object while an iterator stands in it.
-  Mox::PtrInterface const* keeper;
-  bool isConst;
-};
-
 struct Row;
 
-/// The typed steps of a collection.  Keys and values come as addresses of what interfaces hold.
+/// The typed steps of a collection.  `object` is whose attribute is asked for: an entity, an
+/// object, or the copy that a value's interface holds.  Keys and values come as addresses of what
+/// interfaces hold.
+// Two parameters and no record of both, which compilers pass through memory.
 struct Collection {
   U32 (*count)(void const* object);
   U32 (*changes)(void const* object);
   bool (*isMember)(void const* object, void const* key);
-  GenericIf::Ptr (*read)(Row const& row, Target const& target, void const* key);
+  GenericIf::Ptr (*read)(Row const& row, void* object, GenericIf const& face, void const* key);
   void (*write)(void* object, void const* key, void const* value);  ///< null: not by key
   void (*enter)(void* object, void const* value);                   ///< null: not by its own key
   void (*erase)(void* object, void const* key);
   /// A walk from `key` on, or from the start for null.
-  Mox::Ptr<GenericIf::IteratorState> (*walk)(Row const& row, Target const& target, void const* key);
+  Mox::Ptr<GenericIf::IteratorState> (*walk)(Row const& row, void* object, GenericIf const& face,
+                                             void const* key);
 };
 
 /// One argument of an operation or a constructor.
@@ -45,24 +41,23 @@ struct Row {
   char const* name;
   frame::TypeOf type = nullptr;  ///< of the value, or of an operation's result
   frame::TypeOf key = nullptr;   ///< of a collection's keys
-  GenericIf::Ptr (*read)(void const* object, bool isConst, frame::TypeOf type) = nullptr;
-  void (*write)(void* object, void const* value) = nullptr;
+  GenericIf::Ptr (*read)(Row const& row, void const* object, GenericIf const& face) = nullptr;
+  void (*write)(Row const& row, void* object, GenericIf::PtrConst const& value) = nullptr;
   Collection const* collection = nullptr;
-  GenericIf::Ptr (*call)(Row const& row, Target const& target,
+  GenericIf::Ptr (*call)(Row const& row, void* object, GenericIf const& face,
                          void const* const* arguments) = nullptr;
   std::span<Argument const> arguments = {};
 };
 
-/// The attribute of that number; null where there is none.  Numbers mostly follow each other from
-/// the first row on, so that the place tells.
-inline Row const* rowOf(std::span<Row const> rows, Mox::AttributeId id) {
+/// The attribute of that number, if the place tells: numbers mostly follow each other from the
+/// first row on.  Null otherwise.
+inline Row const* placedRow(std::span<Row const> rows, Mox::AttributeId id) {
   std::size_t const place = id - rows.front().id;
-  if (place < rows.size() && rows[place].id == id) [[likely]]
-    return &rows[place];
-  for (Row const& row : rows)
-    if (row.id == id) return &row;
-  return nullptr;
+  return place < rows.size() && rows[place].id == id ? &rows[place] : nullptr;
 }
+
+/// The attribute of that number; null where there is none.
+Row const* rowOf(std::span<Row const> rows, Mox::AttributeId id);
 
 /// The same, of collections alone.
 inline Row const* collectionOf(std::span<Row const> rows, Mox::AttributeId id) {

@@ -27,8 +27,8 @@ using ClassOf = typename MemberOf<decltype(member)>::Class;
 
 /// Reads by the accessor `get`.
 template <auto get>
-GenericIf::Ptr read(void const* object, bool isConst, frame::TypeOf type) {
-  return faceOf((static_cast<ClassOf<get> const*>(object)->*get)(), type, isConst);
+GenericIf::Ptr read(Row const& row, void const* object, GenericIf const& face) {
+  return faceOf((static_cast<ClassOf<get> const*>(object)->*get)(), row.type, face.isConst());
 }
 
 template <class Value>
@@ -36,22 +36,22 @@ using OneValue = Held<Value>;
 
 /// Writes by the mutator `set`.
 template <auto set>
-void write(void* object, void const* value) {
+void write(Row const& row, void* object, GenericIf::PtrConst const& value) {
   using Value = typename MemberOf<decltype(set)>::template Arguments<OneValue>;
-  (static_cast<ClassOf<set>*>(object)->*set)(Value::at(value));
+  (static_cast<ClassOf<set>*>(object)->*set)(Value::required(value, row.type, row.name));
 }
 
 /// Writes the one field of a `Record` by its constructor, with the check that it makes.
 template <class Record, class Field>
-void construct(void* record, void const* value) {
-  *static_cast<Record*>(record) = Record(Held<Field>::at(value));
+void construct(Row const& row, void* record, GenericIf::PtrConst const& value) {
+  *static_cast<Record*>(record) = Record(Held<Field>::required(value, row.type, row.name));
 }
 
 /// Writes the field of a record that stands `offset` bytes behind its start.
 template <class Field, std::size_t offset>
-void store(void* record, void const* value) {
+void store(Row const& row, void* record, GenericIf::PtrConst const& value) {
   auto* const place = static_cast<std::byte*>(record) + offset;
-  *reinterpret_cast<Field*>(place) = Held<Field>::at(value);
+  *reinterpret_cast<Field*>(place) = Held<Field>::required(value, row.type, row.name);
 }
 
 /// Types of arguments, in order.
@@ -76,17 +76,17 @@ struct Types {
 
 /// Calls the operation `operation`, and hands its result out.
 template <auto operation>
-GenericIf::Ptr call(Row const& row, [[maybe_unused]] Target const& target,
+GenericIf::Ptr call(Row const& row, void* object, GenericIf const& face,
                     [[maybe_unused]] void const* const* arguments) {
   using Member = MemberOf<decltype(operation)>;
-  auto* const object = static_cast<typename Member::Class*>(target.object);
-  auto const perform = [object](auto const&... given) { return (object->*operation)(given...); };
+  auto* const whose = static_cast<typename Member::Class*>(object);
+  auto const perform = [whose](auto const&... given) { return (whose->*operation)(given...); };
   using Given = typename Member::template Arguments<Types>;
   if constexpr (std::is_void_v<typename Member::Result>) {
     Given::apply(arguments, perform);
     return nullptr;
   } else {
-    return faceOf(Given::apply(arguments, perform), row.type, target.isConst);
+    return faceOf(Given::apply(arguments, perform), row.type, face.isConst());
   }
 }
 

@@ -13,6 +13,7 @@ class Walk : public GenericIf::IteratorState {
   using Owner = typename A::Owner;
   using Iterator = typename std::remove_cvref_t<decltype(A::map(std::declval<Owner&>()))>::Iterator;
 
+  /// `keeper` keeps the collection while this walk stands in it.
   Walk(Row const& row, Mox::PtrInterface const* keeper, Iterator const& at)
       : IteratorState(static_cast<bool>(at)), row_(row), keeper_(keeper), at_(at) {}
 
@@ -49,8 +50,8 @@ struct CollectionOf {
   static bool isMember(void const* object, void const* key) {
     return A::map(of(object)).isMember(keyAt(key));
   }
-  static GenericIf::Ptr read(Row const& row, Target const& target, void const* key) {
-    return faceOf(A::read(of(target.object), keyAt(key)), row.type, target.isConst);
+  static GenericIf::Ptr read(Row const& row, void* object, GenericIf const& face, void const* key) {
+    return faceOf(A::read(of(object), keyAt(key)), row.type, face.isConst());
   }
   static void write(void* object, void const* key, void const* value) {
     A::write(of(object), keyAt(key), Held<typename A::Value>::at(value));
@@ -59,11 +60,14 @@ struct CollectionOf {
     A::enter(of(object), Held<typename A::Value>::at(value));
   }
   static void erase(void* object, void const* key) { A::erase(of(object), keyAt(key)); }
-  static Mox::Ptr<GenericIf::IteratorState> walk(Row const& row, Target const& target,
-                                                 void const* key) {
+  static Mox::Ptr<GenericIf::IteratorState> walk(Row const& row, void* object,
+                                                 GenericIf const& face, void const* key) {
     using Iterator = typename Walk<A>::Iterator;
-    auto& map = A::map(of(target.object));
-    return new Walk<A>(row, target.keeper, key ? Iterator(map, keyAt(key)) : Iterator(map));
+    Owner& owner = of(object);
+    Mox::PtrInterface const* keeper = &face;  // which holds a value's copy
+    if constexpr (std::derived_from<Owner, Mox::PtrInterface>) keeper = &owner;
+    auto& map = A::map(owner);
+    return new Walk<A>(row, keeper, key ? Iterator(map, keyAt(key)) : Iterator(map));
   }
 };
 

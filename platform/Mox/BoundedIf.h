@@ -40,7 +40,8 @@ class BoundedIf : public GenericIf {
   using Storage = typename T::Storage;
 
   static Storage numberOf(PtrConst const& given) {
-    return *static_cast<Storage const*>(requireHeld(given, Builtin<Storage>::_fwkType(), "value"));
+    return *static_cast<Storage const*>(
+        requireHeld(given.ptr(), Builtin<Storage>::_fwkType(), "value"));
   }
 
   T value_;

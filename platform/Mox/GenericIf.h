@@ -42,6 +42,9 @@ class GenericIf : public PtrInterface::NotifieeConst {
   class IteratorState;
   class List_;
 
+  /// Null: no index, no value.
+  static PtrConst const notGiven;
+
   GenericIf(MoxType const* type, bool isConst) : type_(type), isConst_(isConst) {}
   ~GenericIf() override;
 
@@ -55,8 +58,8 @@ class GenericIf : public PtrInterface::NotifieeConst {
   /// an attribute is no collection, or elements bear their own keys; `OpNotSupportedException`;
   /// `TypeException` for an index or a value of another type than the attribute's, or none; and
   /// what the mutator itself raises.
-  virtual Ptr attributeOp(AttributeOp op, PtrConst const& index = nullptr,
-                          PtrConst const& value = nullptr);
+  virtual Ptr attributeOp(AttributeOp op, PtrConst const& index = notGiven,
+                          PtrConst const& value = notGiven);
 
   /// A walk over a collection from its first element on, or from `key` on; where that is absent,
   /// from the element behind its place.  It survives every change of the collection.
@@ -109,25 +112,35 @@ class GenericIf : public PtrInterface::NotifieeConst {
   [[noreturn]] static void throwUnknownArgException(String8 const& type);
 
   /// The address of what `given` holds; raises `TypeException` with `name` unless it is a `type`.
-  static void const* requireHeld(PtrConst const& given, MoxType const* type, char const* name) {
-    if (given && given->type_ == type && given->held_) [[likely]]
-      return given->held_;
-    return requireOther(given, type, name);
+  static void const* requireHeld(GenericIf const* given, MoxType const* type, char const* name) {
+    auto const* const held = heldBy(given, type);
+    return held ? held : requireOther(given, type, name);
+  }
+  /// The same of a type that may not be made yet, and is null then; `typeOf` makes it.
+  static void const* requireHeld(GenericIf const* given, MoxType const* type, MoxType* (*typeOf)(),
+                                 char const* name) {
+    auto const* const held = heldBy(given, type);
+    return held ? held : requireMade(given, typeOf, name);
   }
 
  protected:
   /// Raises `ConstException` for a write to a constant interface.
   void requireWritable(AttributeOp op) const {
     if (op.opId >= firstWrite && isConst_) [[unlikely]]
-      throwConstException("attempting to modify a const instance");
+      refuseWrite();
   }
   /// `held` is what `voidPtrIs` hands out.
   void heldIs(void const* held) noexcept { held_ = held; }
   void isConstIs(bool isConst) noexcept { isConst_ = isConst; }
 
  private:
+  [[noreturn]] static void refuseWrite();
+  static void const* heldBy(GenericIf const* given, MoxType const* type) noexcept {
+    return given && given->type_ == type ? given->held_ : nullptr;
+  }
   // A class of its own may hold the type all the same.
-  static void const* requireOther(PtrConst const& given, MoxType const* type, char const* name);
+  static void const* requireOther(GenericIf const* given, MoxType const* type, char const* name);
+  static void const* requireMade(GenericIf const* given, MoxType* (*typeOf)(), char const* name);
 
   MoxType const* type_;  // immortal
   void const* held_ = nullptr;
@@ -158,7 +171,9 @@ class GenericIf::AttributeIteratorConst {
  public:
   AttributeIteratorConst() = default;
   AttributeIteratorConst(PtrConst const& genericIf, Mox::Ptr<IteratorState> state)
-      : genericIf_(genericIf), state_(std::move(state)) {}
+      : genericIf_(genericIf), state_(std::move(state)) {
+    letGoAtEnd();
+  }
   AttributeIteratorConst(AttributeIteratorConst const& other)
       : AttributeIteratorConst(other.genericIf_, other.state_ ? other.state_->clone() : nullptr) {}
   AttributeIteratorConst(AttributeIteratorConst&& other) noexcept = default;
@@ -168,9 +183,11 @@ class GenericIf::AttributeIteratorConst {
     return *this;
   }
 
-  explicit operator bool() const noexcept { return state_ && state_->nonNull(); }
+  explicit operator bool() const noexcept { return static_cast<bool>(state_); }
   AttributeIteratorConst& operator++() {
-    if (*this) state_->inc();
+    if (!state_) return *this;
+    state_->inc();
+    letGoAtEnd();
     return *this;
   }
   /// The element, as constant as the interface; null at the end.
@@ -181,8 +198,12 @@ class GenericIf::AttributeIteratorConst {
   void clear() noexcept { state_ = nullptr; }
 
  private:
+  void letGoAtEnd() {
+    if (state_ && !state_->nonNull()) state_ = nullptr;
+  }
+
   PtrConst genericIf_;
-  Mox::Ptr<IteratorState> state_;
+  Mox::Ptr<IteratorState> state_;  // null at the end
 };
 
 /// A list of interfaces, such as constructors and operations take as their arguments.

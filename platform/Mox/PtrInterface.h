@@ -16,7 +16,7 @@ class VFPtrInterface {
   /// The process-wide switch: while set, counts of objects and of string data change atomically.
   static constexpr bool& enableThreadSafePointers = ReferenceWord::threadSafe;
 
-  void referencesInc() const noexcept { referenceWord_.inc(); }
+  [[gnu::always_inline]] void referencesInc() const noexcept { referenceWord_.inc(); }
   /// References held at this moment, flags left out.
   U32 references() const noexcept { return referenceWord_.count(); }
   /// Count and flags as they stand.

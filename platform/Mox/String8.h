@@ -77,7 +77,12 @@ class StringN {
   StringN(StringN&& other) noexcept : data_(std::exchange(other.data_, nullptr)) {}
   ~StringN() { drop(); }
 
-  StringN& operator=(StringN const& other) noexcept;
+  StringN& operator=(StringN const& other) noexcept {
+    if (other.data_) other.data_->references.inc();
+    Data* const former = std::exchange(data_, other.data_);
+    if (former && former->references.dec()) free(former);
+    return *this;
+  }
   StringN& operator=(StringN&& other) noexcept;
   StringN& operator=(char const* text);
 

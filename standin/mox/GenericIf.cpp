@@ -13,6 +13,8 @@ String8 quoted(String8 const& name) { return "'" + name + "'"; }
 
 }  // namespace
 
+constinit GenericIf::PtrConst const GenericIf::notGiven;
+
 GenericIf::~GenericIf() = default;
 
 GenericIf::Ptr GenericIf::attributeOp(AttributeOp op, PtrConst const&, PtrConst const&) {
@@ -72,7 +74,7 @@ void GenericIf::moxDoZombieReactors(bool zombie) {
   if (zombie != moxMarkedForDeletion()) moxMarkedForDeletionIs(zombie);
 }
 
-void const* GenericIf::requireOther(PtrConst const& given, MoxType const* type, char const* name) {
+void const* GenericIf::requireOther(GenericIf const* given, MoxType const* type, char const* name) {
   try {
     auto const* const held = given ? given->voidPtrIs(type) : nullptr;
     if (held) return held;
@@ -81,6 +83,11 @@ void const* GenericIf::requireOther(PtrConst const& given, MoxType const* type, 
   throwTypeException(name);
 }
 
+void const* GenericIf::requireMade(GenericIf const* given, MoxType* (*typeOf)(), char const* name) {
+  return requireOther(given, typeOf(), name);
+}
+
+void GenericIf::refuseWrite() { throwConstException("attempting to modify a const instance"); }
 void GenericIf::throwConstException(String8 const& complaint) { throw ConstException(complaint); }
 void GenericIf::throwBadIndexAttrException(String8 const& attribute) {
   throw BadIndexAttrException("attribute " + quoted(attribute) + " takes no index");

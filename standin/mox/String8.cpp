@@ -60,13 +60,6 @@ StringN<Char>::StringN(std::string_view text) {
 }
 
 template <class Char>
-StringN<Char>& StringN<Char>::operator=(StringN const& other) noexcept {
-  StringN copy(other);
-  std::swap(data_, copy.data_);
-  return *this;
-}
-
-template <class Char>
 StringN<Char>& StringN<Char>::operator=(StringN&& other) noexcept {
   StringN taken(std::move(other));
   std::swap(data_, taken.data_);
