@@ -59,7 +59,7 @@ void readByNumber(benchmark::State& state) {
   Mox::AttributeId id = fecCorrected;
   for (auto _ : state) {
     benchmark::DoNotOptimize(id);
-    benchmark::DoNotOptimize(Mox::primitiveIn<U32>(counters.face->attributeOp({id}).ptr()));
+    benchmark::DoNotOptimize(Mox::primitiveIn<U32>(counters.face->attributeOp({id})));
   }
 }
 BENCHMARK(readByNumber);
@@ -81,8 +81,8 @@ void readByName(benchmark::State& state) {
   Mox::String8 name = "fecCorrected";
   for (auto _ : state) {
     benchmark::DoNotOptimize(name);
-    benchmark::DoNotOptimize(Mox::primitiveIn<U32>(
-        counters.face->attributeOp({counters.face->attributeId(name)}).ptr()));
+    benchmark::DoNotOptimize(
+        Mox::primitiveIn<U32>(counters.face->attributeOp({counters.face->attributeId(name)})));
   }
 }
 BENCHMARK(readByName);
@@ -131,8 +131,8 @@ void walkByNumber(benchmark::State& state) {
   Mox::AttributeId const id = face->attributeId("tableName");
   for (auto _ : state)
     for (auto at = face->attributeIteratorConst(id); at; ++at) {
-      benchmark::DoNotOptimize(Mox::primitiveIn<U32>(at.key().ptr()));
-      benchmark::DoNotOptimize(Mox::primitiveIn<Mox::String8>(at.obj().ptr()).size());
+      benchmark::DoNotOptimize(Mox::primitiveIn<U32>(at.key()));
+      benchmark::DoNotOptimize(Mox::primitiveIn<Mox::String8>(at.obj()).size());
     }
   state.SetItemsProcessed(static_cast<S64>(state.iterations()) * elements);
 }
@@ -155,8 +155,8 @@ void walkNamesByNumber(benchmark::State& state) {
   Mox::AttributeId const id = face->attributeId("ports");
   for (auto _ : state)
     for (auto at = face->attributeIteratorConst(id); at; ++at) {
-      benchmark::DoNotOptimize(Mox::primitiveIn<Mox::String8>(at.key().ptr()).size());
-      benchmark::DoNotOptimize(Mox::primitiveIn<bool>(at.obj().ptr()));
+      benchmark::DoNotOptimize(Mox::primitiveIn<Mox::String8>(at.key()).size());
+      benchmark::DoNotOptimize(Mox::primitiveIn<bool>(at.obj()));
     }
   state.SetItemsProcessed(static_cast<S64>(state.iterations()) * elements);
 }

@@ -21,7 +21,7 @@ void notify(typename A::Owner& owner) {
   auto const& list = owner.moxNotifiees();
   if (!list.anyHears()) [[likely]]
     return;
-  deliver<>(list, A::id, A::level, static_cast<Hook<>>(A::hook));
+  deliver(list, A::id, A::level, static_cast<Hook<>>(A::hook));
 }
 
 /// Tells the notifiees that the element of attribute `A` under `key` has changed.  They hear of
@@ -33,7 +33,7 @@ void notifyKey(typename A::Owner& owner, typename A::Key const& key) {
     return;
   using Key = typename A::Key;
   Key const changed = key;
-  deliver<Key>(list, A::id, A::level, static_cast<Hook<Key>>(A::hook), changed);
+  deliver(list, A::id, A::level, static_cast<Hook<Key>>(A::hook), changed);
 }
 
 /// Holds an owner for a step that goes on behind a delivery, or behind the end of a former target:

@@ -3,9 +3,16 @@
 
 namespace frame {
 
+void Snapshot::dropLast(Notifiee const& member) {
+  Mox::Expect const& scope = *Mox::Expect::current();
+  scope.close();
+  member.handleZeroRef();
+  scope.open();
+}
+
 void hookFailed(Notifiee& member, Mox::AttributeId id) { member.onNotificationException(id); }
 
-template void deliver<>(Mox::BaseCollection const&, Mox::AttributeId, Mox::NotifieeLevel const*,
-                        Hook<>);
+template void deliver<EveryLevel>(Mox::BaseCollection const&, Mox::AttributeId, EveryLevel, Hook<>);
+template void deliver<OneLevel>(Mox::BaseCollection const&, Mox::AttributeId, OneLevel, Hook<>);
 
 }  // namespace frame

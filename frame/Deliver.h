@@ -5,50 +5,58 @@
 #include "Mox/ListRaw.h"
 
 #include <array>
+#include <concepts>
+#include <cstddef>
 
 namespace frame {
 
 using Notifiee = Mox::PtrInterface::NotifieeConst;
 
-/// The members of a notifiee list as they stood, each held by a reference.
+/// The members of a notifiee list as they stood, each held by a reference until it is dropped.
 class Snapshot {
  public:
   /// Where the caller lets the members stand; more of them than it holds need an allocation.
-  /// An object of its own, so that the snapshot's positions can be kept in registers.
   using Room = std::array<Notifiee*, 16>;
+  using Place = Notifiee* const*;
 
   Snapshot(Mox::BaseCollection const& list, Room& room)
-      : members_(room.data()), end_(members_), overflows_(list.count() > room.size()) {
-    if (overflows_) [[unlikely]]
-      end_ = members_ = new Notifiee*[list.count()];
-    at_ = members_;
+      : first_(list.count() > room.size() ? new Notifiee*[list.count()] : room.data()),
+        overflows_(first_ != room.data()) {
+    Notifiee** place = first_;
     for (Notifiee* member = list.head(); member; member = Mox::BaseCollection::next(member)) {
       member->referencesInc();
-      *end_++ = member;
+      *place++ = member;
     }
+    end_ = place;
   }
   ~Snapshot() {
-    while (!atEnd()) release();
+    if (left_) [[unlikely]]
+      for (Place at = left_; at != end_; ++at) (*at)->referencesDec();
     if (overflows_) [[unlikely]]
-      delete[] members_;
+      delete[] first_;
   }
   Snapshot(Snapshot const&) = delete;
   Snapshot& operator=(Snapshot const&) = delete;
 
-  bool atEnd() const noexcept { return at_ == end_; }
-  Notifiee& current() const noexcept { return **at_; }
-  /// Drops the current member and steps to the next one that somebody beside this snapshot holds.
-  void advance() {
-    release();
-    while (!atEnd() && current().references() == 1) release();
+  Place begin() const noexcept { return first_; }
+  Place end() const noexcept { return end_; }
+  /// Drops the member at `at`.
+  static void drop(Place at) {
+    if ((*at)->referencesDecIsLast()) [[unlikely]]
+      dropLast(**at);
   }
+  /// Says that the walk may end here by an exception: the members from `at` on are then dropped
+  /// with the snapshot.
+  // Otherwise the walk alone knows its place, and can keep it in a register.
+  void leftAt(Place at) noexcept { left_ = at; }
 
  private:
-  void release() { (*at_++)->referencesDec(); }
+  // The delivery is over for a member that ends, and so is what it expected.
+  static void dropLast(Notifiee const& member);
 
-  Notifiee** members_;
-  Notifiee** at_;
+  Notifiee** first_;
   Notifiee** end_;
+  Place left_ = nullptr;
   bool overflows_;
 };
 
@@ -59,33 +67,48 @@ void hookFailed(Notifiee& member, Mox::AttributeId id);
 template <class... Key>
 using Hook = void (Notifiee::*)(Key...);
 
+/// The observer class whose hook is called, where the list is a base's and holds others too.
+using OneLevel = Mox::NotifieeLevel const*;
+/// No such class: all members of the list have the hook.
+using EveryLevel = std::nullptr_t;
+
+inline bool isOf(Notifiee const&, EveryLevel) { return true; }
+inline bool isOf(Notifiee const& member, OneLevel level) { return member.moxIsOf(level); }
+
 /// Calls `hook` on each member of a snapshot of `list`, in order.
 ///
-/// Members that aren't of `level` are passed over (null: every member is of the right class); so
+/// Members that aren't of `level` are passed over (`EveryLevel`: all are of the right class); so
 /// are, but for the first, members that only the snapshot still holds.  A hook that throws is
 /// reported to its own notifiee as `onNotificationException(id)` and the others still run; what
 /// that throws ends the delivery and passes on.
-template <class... Key>
-[[gnu::noinline]] void deliver(Mox::BaseCollection const& list, Mox::AttributeId id,
-                               Mox::NotifieeLevel const* level, Hook<Key...> hook,
-                               Key const&... key) {
+template <class Level, class... Key>
+[[gnu::noinline]] void deliver(Mox::BaseCollection const& list, Mox::AttributeId id, Level level,
+                               Hook<Key...> hook, Key const&... key) {
   Snapshot::Room room;
   Snapshot members(list, room);
   Mox::Expect const nothing(0);
-  for (nothing.close(); !members.atEnd(); members.advance()) {
-    Notifiee& member = members.current();
-    if (level && !member.moxIsOf(level)) continue;
-    nothing.open();
-    try {
-      (member.*hook)(key...);
-    } catch (...) {
-      hookFailed(member, id);
+  Snapshot::Place const end = members.end();
+  Snapshot::Place at = members.begin();
+  while (at != end) {
+    Notifiee& member = **at;
+    if (isOf(member, level)) {
+      try {
+        (member.*hook)(key...);
+      } catch (...) {
+        members.leftAt(at);
+        hookFailed(member, id);
+        members.leftAt(nullptr);
+      }
     }
-    nothing.close();
+    do {
+      Snapshot::drop(at++);
+    } while (at != end && (*at)->references() == 1);
   }
 }
 
-extern template void deliver<>(Mox::BaseCollection const&, Mox::AttributeId,
-                               Mox::NotifieeLevel const*, Hook<>);
+extern template void deliver<EveryLevel>(Mox::BaseCollection const&, Mox::AttributeId, EveryLevel,
+                                         Hook<>);
+extern template void deliver<OneLevel>(Mox::BaseCollection const&, Mox::AttributeId, OneLevel,
+                                       Hook<>);
 
 }  // namespace frame

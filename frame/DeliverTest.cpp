@@ -62,6 +62,31 @@ TEST(DeliverTest, ExceptionOutOfTheReportEndsTheDeliveryAndKeepsTheValue) {
   EXPECT_EQ(second.references(), 1u);
 }
 
+TEST(DeliverTest, ExceptionOutOfTheReportInTheMiddleLetsGoOfEachMemberOnce) {
+  class Hopeless : public PlainListener {
+   public:
+    void onLevel() override { throw 1; }
+    void onNotificationException(Mox::AttributeId) override { throw 2; }
+  };
+  Stage stage;
+  stage.join("a");
+  Mox::Ptr<Hopeless> const hopeless = new Hopeless;
+  watch(hopeless, stage.entity);
+  stage.join("c");
+  EXPECT_THROW(stage.change(), int);
+  EXPECT_EQ(stage.book, "a ");
+  EXPECT_EQ(hopeless->references(), 1u);
+  for (auto const& actor : stage.actors) EXPECT_EQ(actor->references(), 1u);
+}
+
+TEST(DeliverTest, ReportThatPassesDoesntEndTheDelivery) {
+  Stage stage;
+  for (char const* name : {"a", "b"}) stage.join(name).then = [] { throw 1; };
+  stage.join("c");
+  EXPECT_EQ(stage.change(), "c ");
+  for (auto const& actor : stage.actors) EXPECT_EQ(actor->references(), 1u);
+}
+
 TEST(DeliverTest, ObserverThatOnlyTheSnapshotHoldsIsPassedOver) {
   Stage stage;
   auto& first = stage.join("a");
@@ -178,6 +203,29 @@ TEST(DeliverTest, NothingIsExpectedInsideAHook) {
   Mox::Expect const outer(48);
   stage.change();
   EXPECT_EQ(inside, 0u);
+  EXPECT_EQ(Mox::Expect::innermost(), 48u);
+}
+
+TEST(DeliverTest, AnObserverThatEndsMeanwhileIsOutsideOfTheDelivery) {
+  class Ending : public PlainListener {
+   public:
+    explicit Ending(Mox::Exception::Id& expected) : expected_(expected) {}
+    ~Ending() override { expected_ = Mox::Expect::innermost(); }
+
+   private:
+    Mox::Exception::Id& expected_;
+  };
+  Stage stage;
+  Mox::Exception::Id expected = 99;
+  Mox::Exception::Id afterwards = 99;
+  Mox::Ptr<Ending> ending = new Ending(expected);
+  watch(ending, stage.entity);
+  ending->then = [&ending] { ending = nullptr; };
+  stage.join("b").then = [&] { afterwards = Mox::Expect::innermost(); };
+  Mox::Expect const outer(48);
+  stage.change();
+  EXPECT_EQ(expected, 48u);
+  EXPECT_EQ(afterwards, 0u);
   EXPECT_EQ(Mox::Expect::innermost(), 48u);
 }
 

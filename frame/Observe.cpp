@@ -66,7 +66,7 @@ void observerGone(Notifiee& member, ListOf listOf) {
 void zeroReferences(Mox::BaseCollection const& list) {
   constexpr Mox::AttributeId zeroReferencesId = 5;
   if (list.empty()) return;
-  deliver<>(list, zeroReferencesId, nullptr, &Notifiee::onZeroReferences);
+  deliver(list, zeroReferencesId, nullptr, &Notifiee::onZeroReferences);
 }
 
 }  // namespace frame

@@ -14,10 +14,7 @@ struct CollectionTest : EveryFixture {
   std::string has(Id id, GenericIf::PtrConst const& key) const {
     return shown(face.ask(id, GenericIf::opIsMember, key));
   }
-  U32 changes(Id id) const {
-    auto const answer = face.ask(id, GenericIf::opChanges);
-    return *static_cast<U32 const*>(answer->voidPtrIs(Mox::Builtin<U32>::_fwkType()));
-  }
+  U32 changes(Id id) const { return Mox::primitiveIn<U32>(face.ask(id, GenericIf::opChanges)); }
 };
 
 TEST_F(CollectionTest, ElementsAreWrittenReadAndErased) {

@@ -211,6 +211,16 @@ TEST_F(WalkTest, KeepsTheEntityThatNobodyElseHolds) {
   EXPECT_EQ(rest(at), all);
 }
 
+TEST_F(WalkTest, LetsTheEntityGoAtItsEnd) {
+  bytesAre({1});
+  U32 const references = entity->references();
+  auto at = walk(every::bytes);
+  EXPECT_EQ(entity->references(), references + 1);
+  ++at;
+  EXPECT_FALSE(at);
+  EXPECT_EQ(entity->references(), references);
+}
+
 TEST_F(WalkTest, LetsTheEntityGoWithTheIterator) {
   bytesAre({1});
   U32 const references = entity->references();

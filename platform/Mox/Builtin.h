@@ -102,9 +102,9 @@ GenericIf::Ptr primitiveIf(T const& value, bool isConst) {
 
 /// The value that `face` holds, for as long as it holds it; raises `TypeException` "value" unless
 /// that is a `T`.
-template <Primitive T>
-T const& primitiveIn(GenericIf const* face) {
-  return Builtin<T>::required(face, "value");
+template <Primitive T, class Face>
+T const& primitiveIn(Ptr<Face> const& face) {
+  return Builtin<T>::required(face.ptr(), "value");
 }
 
 }  // namespace Mox

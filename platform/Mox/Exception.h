@@ -130,12 +130,14 @@ class Expect {
   Expect(Expect const&) = delete;
   Expect& operator=(Expect const&) = delete;
 
-  /// Ends the scope early, and opens it again where it stood: for a loop that leaves and enters it
-  /// often.
+  /// Ends the scope early, and opens it again where it stood: for something within that mustn't see
+  /// it.
   void close() const noexcept { innermost_ = outer_; }
   void open() const noexcept { innermost_ = this; }
 
-  /// The id of the innermost open scope of this thread; 0 where there is none.
+  /// The innermost open scope of this thread; null where there is none.
+  static Expect const* current() noexcept { return innermost_; }
+  /// Its id; 0 where there is none.
   static Exception::Id innermost() noexcept { return innermost_ ? innermost_->id_ : 0; }
   /// True while an open scope of this thread, inside the innermost of id 0, expects an id of the
   /// set.

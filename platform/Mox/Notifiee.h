@@ -79,7 +79,9 @@ class PtrInterface::NotifieeConst : public PtrInterface {
 
   /// True when this observer is of `level` or derives from it.
   bool moxIsOf(NotifieeLevel const* level) const noexcept {
-    return level_ == level || derivesFrom(level);
+    if (level_ == level) [[likely]]
+      return true;
+    return derivesFrom(level);
   }
 
   /// False for one whose hooks would do nothing, such as the adapter of an interface that nobody

@@ -62,8 +62,10 @@ class PtrInterface : public VFPtrInterface {
 
   /// One reference fewer; at the last, `handleZeroRef`.
   void referencesDec() const {
-    if (referenceWord_.dec()) handleZeroRef();
+    if (referencesDecIsLast()) handleZeroRef();
   }
+  /// The same, but for the last: true, and `handleZeroRef` is the caller's to call.
+  [[gnu::always_inline]] bool referencesDecIsLast() const noexcept { return referenceWord_.dec(); }
   /// Tells the object by `zeroReferencesIs`, and deletes it unless something holds it again.
   void handleZeroRef() const;
 

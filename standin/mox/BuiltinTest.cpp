@@ -120,6 +120,15 @@ TYPED_TEST(PrimitiveTest, IsHeldForItsVeryTypeAlone) {
   EXPECT_NE(complaint<Mox::TypeException>([&] { face->voidPtrIs(nullptr); }), "");
 }
 
+TYPED_TEST(PrimitiveTest, IsReadByItsTypeWithoutACast) {
+  for (TypeParam const& value : samples<TypeParam>())
+    EXPECT_EQ(primitiveIn<TypeParam>(primitiveIf(value, true)), value);
+  for (auto const& other : {GenericIf::PtrConst(), GenericIf::PtrConst(list({}))}) {
+    EXPECT_EQ(complaint<Mox::TypeException>([&] { primitiveIn<TypeParam>(other); }),
+              "wrong type for 'value'");
+  }
+}
+
 TYPED_TEST(PrimitiveTest, WhatIsHeldNeverChangesUnderItsHolder) {
   TypeParam const value = first<TypeParam>();
   auto const first = primitiveIf(value, true);

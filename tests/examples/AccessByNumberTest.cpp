@@ -19,8 +19,7 @@ TEST(AccessByNumberTest, TheExampleOfTheDocsDoesWhatItSays) {
   Mox::AttributeId id = face->attributeId("fecCorrected");
   face->attributeOp({id, Mox::GenericIf::opWrite}, nullptr, seven);
   EXPECT_STREQ(face->attributeOp({id})->strRep().charPtr(), "7");
-  U32 number =
-      *static_cast<U32 const*>(face->attributeOp({id})->voidPtrIs(Mox::Builtin<U32>::_fwkType()));
+  U32 number = Mox::primitiveIn<U32>(face->attributeOp({id}));
   EXPECT_EQ(number, 7u);
 
   std::ostringstream out;

@@ -8,7 +8,7 @@
 
 namespace everyShape {
 
-struct Branch::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Branch::GenericIf_::MoxTable {
   static constexpr reflect::Argument constructorTypes[] = {
       {"port", Mox::Builtin<U16>::_fwkType},
       {"leaf", Leaf::_fwkType},
@@ -26,8 +26,10 @@ struct Branch::GenericIf_::MoxTable {
           .read = reflect::read<&Branch::moxHasAttrLogInterface>},
       {.id = 0, .name = "fwkKey"},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return reflect::targetOf<Branch>(face.entity(), face);
+  static Branch* objectOf(GenericIf_ const& face) { return reflect::observed<Branch>(face); }
+  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
+      PtrConst const& value) {
+    return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
       {388, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onTwig(); }},
@@ -52,20 +54,18 @@ Mox::Ptr<Branch> Branch::GenericIf_::obj() const { return static_cast<Branch*>(e
 Mox::GenericIf::Ptr Branch::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
-      value) : MoxBase::attributeOp(op, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Branch::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
   return row ? reflect::walk(*this, *row,
-      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
+      MoxTable::objectOf(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Branch::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+  return row ? reflect::walk(*this, *row, MoxTable::objectOf(*this),
       key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Branch::GenericIf_::clone() {

@@ -15,7 +15,7 @@ struct Branch::Tags {
     static constexpr Mox::AttributeId id = 388;
     static constexpr char const* name = "twig";
     static constexpr char const* ownerName = "everyShape::Branch";
-    static constexpr Mox::NotifieeLevel const* level = &NotifieeConst::moxLevel_;
+    static constexpr auto level = &NotifieeConst::moxLevel_;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onTwig;
     static Value& field(Owner& owner) { return owner.twig_; }
     /// Whether the version steps when the child is kept.
@@ -33,7 +33,7 @@ struct Branch::Tags {
     static constexpr Mox::AttributeId id = 389;
     static constexpr char const* name = "bud";
     static constexpr char const* ownerName = "everyShape::Branch";
-    static constexpr Mox::NotifieeLevel const* level = &NotifieeConst::moxLevel_;
+    static constexpr auto level = &NotifieeConst::moxLevel_;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onBud;
     static Value& field(Owner& owner) { return owner.bud_; }
     /// Whether the version steps when the child is kept.

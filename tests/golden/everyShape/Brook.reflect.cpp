@@ -8,15 +8,17 @@
 
 namespace everyShape {
 
-struct Brook::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Brook::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 258, .name = "grove", .type = Grove::_fwkType, .read = reflect::read<&Brook::grove>,
           .write = reflect::write<&Brook::groveIs>},
       {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
           .read = reflect::read<&Brook::moxHasAttrLogInterface>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return reflect::targetOf<Brook>(face.entity(), face);
+  static Brook* objectOf(GenericIf_ const& face) { return reflect::observed<Brook>(face); }
+  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
+      PtrConst const& value) {
+    return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
       {258, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onGrove(); }},
@@ -40,20 +42,18 @@ Mox::Ptr<Brook> Brook::GenericIf_::obj() const { return static_cast<Brook*>(enti
 Mox::GenericIf::Ptr Brook::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
-      value) : MoxBase::attributeOp(op, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Brook::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
   return row ? reflect::walk(*this, *row,
-      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
+      MoxTable::objectOf(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Brook::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+  return row ? reflect::walk(*this, *row, MoxTable::objectOf(*this),
       key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Brook::GenericIf_::clone() {

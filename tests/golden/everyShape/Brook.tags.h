@@ -14,7 +14,7 @@ struct Brook::Tags {
     static constexpr Mox::AttributeId id = 258;
     static constexpr char const* name = "grove";
     static constexpr char const* ownerName = "everyShape::Brook";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onGrove;
     static Value& field(Owner& owner) { return owner.grove_; }
   };

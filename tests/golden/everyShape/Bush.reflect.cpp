@@ -9,7 +9,7 @@
 
 namespace everyShape {
 
-struct Bush::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Bush::GenericIf_::MoxTable {
   static constexpr reflect::Argument constructorTypes[] = {
       {"name", Mox::Name::_fwkType},
       {"parentBush", Bush::_fwkType},
@@ -22,8 +22,10 @@ struct Bush::GenericIf_::MoxTable {
       {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
           .read = reflect::read<&Bush::moxHasAttrLogInterface>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return reflect::targetOf<Bush>(face.entity(), face);
+  static Bush* objectOf(GenericIf_ const& face) { return reflect::observed<Bush>(face); }
+  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
+      PtrConst const& value) {
+    return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
       {259, true, [](Mox::GenericIfEntity& face) {
@@ -51,20 +53,18 @@ Mox::Ptr<Bush> Bush::GenericIf_::obj() const { return static_cast<Bush*>(entity(
 Mox::GenericIf::Ptr Bush::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
-      value) : MoxBase::attributeOp(op, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Bush::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
   return row ? reflect::walk(*this, *row,
-      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
+      MoxTable::objectOf(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Bush::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+  return row ? reflect::walk(*this, *row, MoxTable::objectOf(*this),
       key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Bush::GenericIf_::clone() {

@@ -16,7 +16,7 @@ struct Bush::Tags {
     static constexpr Mox::AttributeId id = 259;
     static constexpr char const* name = "branches";
     static constexpr char const* ownerName = "everyShape::Bush";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onBranches;
     static auto& map(Owner& owner) { return owner.branches_; }
     static auto const& map(Owner const& owner) { return owner.branches_; }

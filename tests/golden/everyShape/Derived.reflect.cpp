@@ -9,7 +9,7 @@
 
 namespace everyShape {
 
-struct Derived::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Derived::GenericIf_::MoxTable {
   static constexpr reflect::Argument constructorTypes[] = {
       {"name", Mox::Name::_fwkType},
       {"port", Mox::Builtin<U16>::_fwkType},
@@ -23,8 +23,10 @@ struct Derived::GenericIf_::MoxTable {
       {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
           .read = reflect::read<&Derived::moxHasAttrLogInterface>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return reflect::targetOf<Derived>(face.entity(), face);
+  static Derived* objectOf(GenericIf_ const& face) { return reflect::observed<Derived>(face); }
+  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
+      PtrConst const& value) {
+    return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
       {386, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onExtra(); }},
@@ -53,20 +55,18 @@ Mox::Ptr<Derived> Derived::GenericIf_::obj() const { return static_cast<Derived*
 Mox::GenericIf::Ptr Derived::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
-      value) : MoxBase::attributeOp(op, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Derived::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
   return row ? reflect::walk(*this, *row,
-      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
+      MoxTable::objectOf(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Derived::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+  return row ? reflect::walk(*this, *row, MoxTable::objectOf(*this),
       key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Derived::GenericIf_::clone() {

@@ -14,7 +14,7 @@ struct Derived::Tags {
     static constexpr Mox::AttributeId id = 386;
     static constexpr char const* name = "extra";
     static constexpr char const* ownerName = "everyShape::Derived";
-    static constexpr Mox::NotifieeLevel const* level = &NotifieeConst::moxLevel_;
+    static constexpr auto level = &NotifieeConst::moxLevel_;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onExtra;
     static Value& field(Owner& owner) { return owner.extra_; }
   };
@@ -27,7 +27,7 @@ struct Derived::Tags {
     static constexpr Mox::AttributeId id = 387;
     static constexpr char const* name = "marks";
     static constexpr char const* ownerName = "everyShape::Derived";
-    static constexpr Mox::NotifieeLevel const* level = &NotifieeConst::moxLevel_;
+    static constexpr auto level = &NotifieeConst::moxLevel_;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onMarks;
     static auto& map(Owner& owner) { return owner.marks_; }
     static auto const& map(Owner const& owner) { return owner.marks_; }

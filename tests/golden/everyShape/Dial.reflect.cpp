@@ -7,15 +7,17 @@
 
 namespace everyShape {
 
-struct Dial::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Dial::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "value", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Dial::value>, .write = reflect::construct<Dial, U32>},
       {.id = 3, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Dial::hash>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return {const_cast<Dial*>(&face.value_), &face, face.isConst()};
+  static Dial* objectOf(GenericIf_ const& face) { return const_cast<Dial*>(&face.value_); }
+  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
+      PtrConst const&) {
+    throwUnknownAttrException("Dial");
   }
 };
 
@@ -34,9 +36,7 @@ Dial::GenericIf_::GenericIf_(Dial const& value, bool isConst) : GenericIf(Dial::
 Mox::GenericIf::Ptr Dial::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  if (!row) throwUnknownAttrException("Dial");
-  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Dial::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

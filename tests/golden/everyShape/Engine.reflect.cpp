@@ -7,7 +7,7 @@
 
 namespace everyShape {
 
-struct Engine::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Engine::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 130, .name = "grove", .type = Grove::_fwkType, .read = reflect::read<&Engine::grove>},
       {.id = 131, .name = "note", .type = Mox::Builtin<Mox::String8>::_fwkType,
@@ -20,8 +20,10 @@ struct Engine::GenericIf_::MoxTable {
           .read = reflect::read<&Engine::heat>},
       {.id = 0, .name = "moxFwkActivity"},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return reflect::targetOf<Engine>(face.obj().ptr(), face);
+  static Engine* objectOf(GenericIf_ const& face) { return reflect::observed<Engine>(face); }
+  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
+      PtrConst const&) {
+    throwUnknownAttrException("Engine");
   }
 };
 
@@ -42,9 +44,7 @@ Mox::Ptr<Engine> Engine::GenericIf_::obj() const {
 Mox::GenericIf::Ptr Engine::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  if (!row) throwUnknownAttrException("Engine");
-  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Engine::GenericIf_::clone() {
   return reflect::active(new GenericIf_(obj(), isConst()));

@@ -9,7 +9,7 @@
 
 namespace everyShape {
 
-struct Every::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Every::GenericIf_::MoxTable {
   static constexpr reflect::Argument constructorTypes[] = {
       {"name", Mox::Name::_fwkType},
       {"port", Mox::Builtin<U16>::_fwkType},
@@ -59,8 +59,10 @@ struct Every::GenericIf_::MoxTable {
       {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
           .read = reflect::read<&Every::moxHasAttrLogInterface>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return reflect::targetOf<Every>(face.entity(), face);
+  static Every* objectOf(GenericIf_ const& face) { return reflect::observed<Every>(face); }
+  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
+      PtrConst const& value) {
+    return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
       {259, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onLevel(); }},
@@ -129,20 +131,18 @@ Mox::Ptr<Every> Every::GenericIf_::obj() const { return static_cast<Every*>(enti
 Mox::GenericIf::Ptr Every::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
-      value) : MoxBase::attributeOp(op, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Every::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
   return row ? reflect::walk(*this, *row,
-      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
+      MoxTable::objectOf(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Every::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+  return row ? reflect::walk(*this, *row, MoxTable::objectOf(*this),
       key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Every::GenericIf_::clone() {

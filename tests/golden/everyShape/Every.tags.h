@@ -14,7 +14,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 259;
     static constexpr char const* name = "level";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onLevel;
     static Value& field(Owner& owner) { return owner.level_; }
   };
@@ -25,7 +25,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 260;
     static constexpr char const* name = "gauge";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onGauge;
     static Value& field(Owner& owner) { return owner.gauge_; }
   };
@@ -36,7 +36,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 261;
     static constexpr char const* name = "ratio";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onRatio;
     static Value& field(Owner& owner) { return owner.ratio_; }
   };
@@ -47,7 +47,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 262;
     static constexpr char const* name = "label";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onLabel;
     static Value& field(Owner& owner) { return owner.label_; }
   };
@@ -58,7 +58,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 263;
     static constexpr char const* name = "mix";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onMix;
     static Value& field(Owner& owner) { return owner.mix_; }
   };
@@ -69,7 +69,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 264;
     static constexpr char const* name = "mood";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onMood;
     static Value& field(Owner& owner) { return owner.mood_; }
   };
@@ -80,7 +80,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 265;
     static constexpr char const* name = "bounded";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onBounded;
     static Value& field(Owner& owner) { return owner.bounded_; }
   };
@@ -91,7 +91,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 266;
     static constexpr char const* name = "hits";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onHits;
     static Value& field(Owner& owner) { return owner.hits_; }
   };
@@ -104,7 +104,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 267;
     static constexpr char const* name = "bytes";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onBytes;
     static auto& map(Owner& owner) { return owner.bytes_; }
     static auto const& map(Owner const& owner) { return owner.bytes_; }
@@ -123,7 +123,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 268;
     static constexpr char const* name = "words";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onWords;
     static auto& map(Owner& owner) { return owner.words_; }
     static auto const& map(Owner const& owner) { return owner.words_; }
@@ -142,7 +142,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 269;
     static constexpr char const* name = "texts";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onTexts;
     static auto& map(Owner& owner) { return owner.texts_; }
     static auto const& map(Owner const& owner) { return owner.texts_; }
@@ -159,7 +159,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 270;
     static constexpr char const* name = "buddy";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onBuddy;
     static Value& field(Owner& owner) { return owner.buddy_; }
   };
@@ -172,7 +172,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 271;
     static constexpr char const* name = "known";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onKnown;
     static auto& map(Owner& owner) { return owner.known_; }
     static auto const& map(Owner const& owner) { return owner.known_; }
@@ -190,7 +190,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 272;
     static constexpr char const* name = "seats";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onSeats;
     static auto& map(Owner& owner) { return owner.seats_; }
     static auto const& map(Owner const& owner) { return owner.seats_; }
@@ -208,7 +208,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 273;
     static constexpr char const* name = "best";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onBest;
     static Value& field(Owner& owner) { return owner.best_; }
     /// Whether the version steps when the child is kept.
@@ -226,7 +226,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 274;
     static constexpr char const* name = "leaves";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onLeaves;
     static auto& map(Owner& owner) { return owner.leaves_; }
     static auto const& map(Owner const& owner) { return owner.leaves_; }
@@ -249,7 +249,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 275;
     static constexpr char const* name = "lanes";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onLanes;
     static auto& map(Owner& owner) { return owner.lanes_; }
     static auto const& map(Owner const& owner) { return owner.lanes_; }
@@ -266,7 +266,7 @@ struct Every::Tags {
     static constexpr Mox::AttributeId id = 276;
     static constexpr char const* name = "odd";
     static constexpr char const* ownerName = "everyShape::Every";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onOdd;
     static Value& field(Owner& owner) { return owner.odd_; }
   };

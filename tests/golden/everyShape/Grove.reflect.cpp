@@ -10,7 +10,7 @@
 
 namespace everyShape {
 
-struct Grove::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Grove::GenericIf_::MoxTable {
   static constexpr reflect::Argument pruneArguments[] = {
       {"from", Mox::Builtin<U8>::_fwkType},
       {"knob", Knob::_fwkType},
@@ -33,8 +33,10 @@ struct Grove::GenericIf_::MoxTable {
       {.id = 154, .name = "moxHasAttrLogInterface", .type = Mox::Builtin<bool>::_fwkType,
           .read = reflect::read<&Grove::moxHasAttrLogInterface>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return reflect::targetOf<Grove>(face.entity(), face);
+  static Grove* objectOf(GenericIf_ const& face) { return reflect::observed<Grove>(face); }
+  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
+      PtrConst const& value) {
+    return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
       {258, true, [](Mox::GenericIfEntity& face) {
@@ -77,20 +79,18 @@ Mox::Ptr<Grove> Grove::GenericIf_::obj() const { return static_cast<Grove*>(enti
 Mox::GenericIf::Ptr Grove::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
-      value) : MoxBase::attributeOp(op, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Grove::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
   return row ? reflect::walk(*this, *row,
-      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
+      MoxTable::objectOf(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Grove::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+  return row ? reflect::walk(*this, *row, MoxTable::objectOf(*this),
       key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Grove::GenericIf_::clone() {

@@ -17,7 +17,7 @@ struct Grove::Tags {
     static constexpr Mox::AttributeId id = 258;
     static constexpr char const* name = "tree";
     static constexpr char const* ownerName = "everyShape::Grove";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onTree;
     static auto& map(Owner& owner) { return owner.tree_; }
     static auto const& map(Owner const& owner) { return owner.tree_; }
@@ -38,7 +38,7 @@ struct Grove::Tags {
     static constexpr Mox::AttributeId id = 259;
     static constexpr char const* name = "row";
     static constexpr char const* ownerName = "everyShape::Grove";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onRow;
     static auto& map(Owner& owner) { return owner.row_; }
     static auto const& map(Owner const& owner) { return owner.row_; }
@@ -55,7 +55,7 @@ struct Grove::Tags {
     static constexpr Mox::AttributeId id = 262;
     static constexpr char const* name = "brook";
     static constexpr char const* ownerName = "everyShape::Grove";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onBrook;
     static Value& field(Owner& owner) { return owner.brook_; }
   };
@@ -66,7 +66,7 @@ struct Grove::Tags {
     static constexpr Mox::AttributeId id = 263;
     static constexpr char const* name = "level";
     static constexpr char const* ownerName = "everyShape::Grove";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onLevel;
     static Value& field(Owner& owner) { return owner.level_; }
   };
@@ -79,7 +79,7 @@ struct Grove::Tags {
     static constexpr Mox::AttributeId id = 264;
     static constexpr char const* name = "byLevel";
     static constexpr char const* ownerName = "everyShape::Grove";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)(Key) = &NotifieeConst::onByLevel;
     static auto& map(Owner& owner) { return owner.byLevel_; }
     static auto const& map(Owner const& owner) { return owner.byLevel_; }

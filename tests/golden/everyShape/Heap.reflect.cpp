@@ -9,15 +9,17 @@
 
 namespace everyShape {
 
-struct Heap::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Heap::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "item", .type = Mox::Builtin<bool>::_fwkType,
           .key = Mox::Builtin<U32>::_fwkType, .collection = &reflect::collection<Heap::Tags::Item>},
       {.id = 3, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Heap::hash>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return {const_cast<Heap*>(&face.value_), &face, face.isConst()};
+  static Heap* objectOf(GenericIf_ const& face) { return const_cast<Heap*>(&face.value_); }
+  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
+      PtrConst const&) {
+    throwUnknownAttrException("Heap");
   }
 };
 
@@ -36,20 +38,18 @@ Heap::GenericIf_::GenericIf_(Heap const& value, bool isConst) : GenericIf(Heap::
 Mox::GenericIf::Ptr Heap::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  if (!row) throwUnknownAttrException("Heap");
-  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Heap::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
   return row ? reflect::walk(*this, *row,
-      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
+      MoxTable::objectOf(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Heap::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+  return row ? reflect::walk(*this, *row, MoxTable::objectOf(*this),
       key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Heap::GenericIf_::clone() {

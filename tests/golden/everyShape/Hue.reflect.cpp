@@ -7,15 +7,17 @@
 
 namespace everyShape {
 
-struct Hue::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Hue::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "value", .type = Mox::Builtin<U16>::_fwkType,
           .read = reflect::read<&Hue::value>, .write = reflect::construct<Hue, U16>},
       {.id = 3, .name = "hash", .type = Mox::Builtin<U16>::_fwkType,
           .read = reflect::read<&Hue::hash>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return {const_cast<Hue*>(&face.value_), &face, face.isConst()};
+  static Hue* objectOf(GenericIf_ const& face) { return const_cast<Hue*>(&face.value_); }
+  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
+      PtrConst const&) {
+    throwUnknownAttrException("Hue");
   }
 };
 
@@ -34,9 +36,7 @@ Hue::GenericIf_::GenericIf_(Hue const& value, bool isConst) : GenericIf(Hue::_fw
 Mox::GenericIf::Ptr Hue::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  if (!row) throwUnknownAttrException("Hue");
-  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Hue::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

@@ -8,15 +8,17 @@
 
 namespace everyShape {
 
-struct Knob::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Knob::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "turn", .type = Mox::Builtin<U8>::_fwkType,
           .read = reflect::read<&Knob::turn>, .write = reflect::store<U8, offsetof(Knob, turn_)>},
       {.id = 3, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Knob::hash>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return {const_cast<Knob*>(&face.value_), &face, face.isConst()};
+  static Knob* objectOf(GenericIf_ const& face) { return const_cast<Knob*>(&face.value_); }
+  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
+      PtrConst const&) {
+    throwUnknownAttrException("Knob");
   }
 };
 
@@ -35,9 +37,7 @@ Knob::GenericIf_::GenericIf_(Knob const& value, bool isConst) : GenericIf(Knob::
 Mox::GenericIf::Ptr Knob::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  if (!row) throwUnknownAttrException("Knob");
-  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Knob::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

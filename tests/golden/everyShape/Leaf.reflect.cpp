@@ -8,7 +8,7 @@
 
 namespace everyShape {
 
-struct Leaf::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Leaf::GenericIf_::MoxTable {
   static constexpr reflect::Argument constructorTypes[] = {
       {"name", Mox::Name::_fwkType},
       {"lane", Mox::Builtin<U8>::_fwkType},
@@ -24,8 +24,10 @@ struct Leaf::GenericIf_::MoxTable {
           .read = reflect::read<&Leaf::moxHasAttrLogInterface>},
       {.id = 0, .name = "fwkKey"},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return reflect::targetOf<Leaf>(face.entity(), face);
+  static Leaf* objectOf(GenericIf_ const& face) { return reflect::observed<Leaf>(face); }
+  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
+      PtrConst const& value) {
+    return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
       {260, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onLit(); }},
@@ -49,20 +51,18 @@ Mox::Ptr<Leaf> Leaf::GenericIf_::obj() const { return static_cast<Leaf*>(entity(
 Mox::GenericIf::Ptr Leaf::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
-      value) : MoxBase::attributeOp(op, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Leaf::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
   return row ? reflect::walk(*this, *row,
-      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
+      MoxTable::objectOf(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Leaf::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+  return row ? reflect::walk(*this, *row, MoxTable::objectOf(*this),
       key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Leaf::GenericIf_::clone() {

@@ -14,7 +14,7 @@ struct Leaf::Tags {
     static constexpr Mox::AttributeId id = 260;
     static constexpr char const* name = "lit";
     static constexpr char const* ownerName = "everyShape::Leaf";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onLit;
     static Value& field(Owner& owner) { return owner.lit_; }
   };

@@ -7,15 +7,17 @@
 
 namespace everyShape {
 
-struct Level::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Level::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "value", .type = Mox::Builtin<U8>::_fwkType,
           .read = reflect::read<&Level::value>, .write = reflect::construct<Level, U8>},
       {.id = 3, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Level::hash>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return {const_cast<Level*>(&face.value_), &face, face.isConst()};
+  static Level* objectOf(GenericIf_ const& face) { return const_cast<Level*>(&face.value_); }
+  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
+      PtrConst const&) {
+    throwUnknownAttrException("Level");
   }
 };
 
@@ -34,9 +36,7 @@ Level::GenericIf_::GenericIf_(Level const& value, bool isConst) : GenericIf(Leve
 Mox::GenericIf::Ptr Level::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  if (!row) throwUnknownAttrException("Level");
-  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Level::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

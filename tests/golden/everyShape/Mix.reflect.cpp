@@ -8,7 +8,7 @@
 
 namespace everyShape {
 
-struct Mix::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Mix::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "small", .type = Mox::Builtin<U8>::_fwkType,
           .read = reflect::read<&Mix::small>, .write = reflect::store<U8, offsetof(Mix, small_)>},
@@ -25,8 +25,10 @@ struct Mix::GenericIf_::MoxTable {
       {.id = 7, .name = "hash", .type = Mox::Builtin<U32>::_fwkType,
           .read = reflect::read<&Mix::hash>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return {const_cast<Mix*>(&face.value_), &face, face.isConst()};
+  static Mix* objectOf(GenericIf_ const& face) { return const_cast<Mix*>(&face.value_); }
+  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
+      PtrConst const&) {
+    throwUnknownAttrException("Mix");
   }
 };
 
@@ -45,9 +47,7 @@ Mix::GenericIf_::GenericIf_(Mix const& value, bool isConst) : GenericIf(Mix::_fw
 Mox::GenericIf::Ptr Mix::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  if (!row) throwUnknownAttrException("Mix");
-  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Mix::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

@@ -7,13 +7,15 @@
 
 namespace everyShape {
 
-struct Shade::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Shade::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 2, .name = "value", .type = Mox::Builtin<U16>::_fwkType,
           .read = reflect::read<&Shade::value>, .write = reflect::construct<Shade, U16>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return {const_cast<Shade*>(&face.value_), &face, face.isConst()};
+  static Shade* objectOf(GenericIf_ const& face) { return const_cast<Shade*>(&face.value_); }
+  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
+      PtrConst const& value) {
+    return reflect::performInBase(face, static_cast<Hue const*>(&face.value_), op, index, value);
   }
 };
 
@@ -32,10 +34,7 @@ Shade::GenericIf_::GenericIf_(Shade const& value, bool isConst) : GenericIf(Shad
 Mox::GenericIf::Ptr Shade::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  if (!row) return reflect::performInBase(*this, static_cast<Hue const*>(&value_), op, index,
-      value);
-  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Shade::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

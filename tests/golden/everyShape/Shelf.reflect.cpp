@@ -9,7 +9,7 @@
 
 namespace everyShape {
 
-struct Shelf::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Shelf::GenericIf_::MoxTable {
   static constexpr reflect::Row rows[] = {
       {.id = 130, .name = "shelfId", .type = Mox::Builtin<U8>::_fwkType,
           .read = reflect::read<&Shelf::shelfId>},
@@ -19,8 +19,10 @@ struct Shelf::GenericIf_::MoxTable {
           .key = Mox::Builtin<U32>::_fwkType,
           .collection = &reflect::collection<Shelf::Tags::Labels>},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return reflect::targetOf<Shelf>(face.obj().ptr(), face);
+  static Shelf* objectOf(GenericIf_ const& face) { return reflect::observed<Shelf>(face); }
+  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
+      PtrConst const&) {
+    throwUnknownAttrException("Shelf");
   }
 };
 
@@ -41,20 +43,18 @@ Mox::Ptr<Shelf> Shelf::GenericIf_::obj() const {
 Mox::GenericIf::Ptr Shelf::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  if (!row) throwUnknownAttrException("Shelf");
-  return reflect::perform(*row, MoxTable::target(*this), op.opId, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Shelf::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
   return row ? reflect::walk(*this, *row,
-      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
+      MoxTable::objectOf(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Shelf::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+  return row ? reflect::walk(*this, *row, MoxTable::objectOf(*this),
       key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Shelf::GenericIf_::clone() {

@@ -8,7 +8,7 @@
 
 namespace everyShape {
 
-struct Stem::GenericIf_::MoxTable {
+struct [[gnu::visibility("hidden")]] Stem::GenericIf_::MoxTable {
   static constexpr reflect::Argument constructorTypes[] = {
       {"port", Mox::Builtin<U16>::_fwkType},
   };
@@ -25,8 +25,10 @@ struct Stem::GenericIf_::MoxTable {
           .read = reflect::read<&Stem::moxHasAttrLogInterface>},
       {.id = 0, .name = "fwkKey"},
   };
-  static reflect::Target target(GenericIf_ const& face) {
-    return reflect::targetOf<Stem>(face.entity(), face);
+  static Stem* objectOf(GenericIf_ const& face) { return reflect::observed<Stem>(face); }
+  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
+      PtrConst const& value) {
+    return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
       {259, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onGirth(); }},
@@ -52,20 +54,18 @@ Mox::Ptr<Stem> Stem::GenericIf_::obj() const { return static_cast<Stem*>(entity(
 Mox::GenericIf::Ptr Stem::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  auto const* const row = reflect::rowOf(MoxTable::rows, op.attrId);
-  return row ? reflect::perform(*row, MoxTable::target(*this), op.opId, index,
-      value) : MoxBase::attributeOp(op, index, value);
+  return reflect::performBy<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Stem::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
   return row ? reflect::walk(*this, *row,
-      MoxTable::target(*this)) : MoxBase::attributeIteratorConst(id);
+      MoxTable::objectOf(*this)) : MoxBase::attributeIteratorConst(id);
 }
 Mox::GenericIf::AttributeIteratorConst Stem::GenericIf_::attributeIteratorKeyConst(
     Mox::AttributeId id, PtrConst const& key) const {
   auto const* const row = reflect::collectionOf(MoxTable::rows, id);
-  return row ? reflect::walk(*this, *row, MoxTable::target(*this),
+  return row ? reflect::walk(*this, *row, MoxTable::objectOf(*this),
       key) : MoxBase::attributeIteratorKeyConst(id, key);
 }
 Mox::GenericIf::Ptr Stem::GenericIf_::clone() {

@@ -14,7 +14,7 @@ struct Stem::Tags {
     static constexpr Mox::AttributeId id = 259;
     static constexpr char const* name = "girth";
     static constexpr char const* ownerName = "everyShape::Stem";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onGirth;
     static Value& field(Owner& owner) { return owner.girth_; }
   };
@@ -25,7 +25,7 @@ struct Stem::Tags {
     static constexpr Mox::AttributeId id = 260;
     static constexpr char const* name = "rings";
     static constexpr char const* ownerName = "everyShape::Stem";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onRings;
     static Value& field(Owner& owner) { return owner.rings_; }
   };
@@ -36,7 +36,7 @@ struct Stem::Tags {
     static constexpr Mox::AttributeId id = 261;
     static constexpr char const* name = "root";
     static constexpr char const* ownerName = "everyShape::Stem";
-    static constexpr Mox::NotifieeLevel const* level = nullptr;
+    static constexpr auto level = nullptr;
     static constexpr void (NotifieeConst::*hook)() = &NotifieeConst::onRoot;
     static Value& field(Owner& owner) { return owner.root_; }
   };
