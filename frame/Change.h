@@ -14,12 +14,12 @@ namespace frame {
 template <class A>
 concept EntityAttribute = std::derived_from<typename A::Owner, Mox::Entity>;
 
-/// Tells the notifiees that attribute `A` has changed, unless none of them hears.  An entity that
-/// nobody watches pays one compare.
+/// Tells the notifiees that attribute `A` has changed, unless the only one doesn't hear.  An entity
+/// that nobody watches pays one compare.
 template <EntityAttribute A>
 void notify(typename A::Owner& owner) {
   auto const& list = owner.moxNotifiees();
-  if (!list.anyHears()) [[likely]]
+  if (!list.anyMayHear()) [[likely]]
     return;
   deliver(list, A::id, A::level, static_cast<Hook<>>(A::hook));
 }
@@ -29,7 +29,7 @@ void notify(typename A::Owner& owner) {
 template <EntityAttribute A>
 void notifyKey(typename A::Owner& owner, typename A::Key const& key) {
   auto const& list = owner.moxNotifiees();
-  if (!list.anyHears()) [[likely]]
+  if (!list.anyMayHear()) [[likely]]
     return;
   using Key = typename A::Key;
   Key const changed = key;

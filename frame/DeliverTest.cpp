@@ -190,6 +190,14 @@ TEST(DeliverTest, HookMayChangeTheSameEntity) {
   EXPECT_EQ(stage.change(), "a1 a3 b b ");
 }
 
+TEST(DeliverTest, OneThatDoesntHearIsPassedOverWhileItIsAlone) {
+  Stage stage;
+  stage.join("a").moxHearsIs(false);
+  EXPECT_EQ(stage.change(), "");
+  stage.join("b");
+  EXPECT_EQ(stage.change(), "a b ");
+}
+
 TEST(DeliverTest, MoreObserversHearThanTheRoomHolds) {
   Stage stage;
   for (int i = 0; i < 20; ++i) stage.join("x");

@@ -43,7 +43,7 @@ template <class Table, class Face>
 template <class Table, class Face>
 GenericIf::Ptr performBy(Face& face, GenericIf::AttributeOp op, GenericIf::PtrConst const& index,
                          GenericIf::PtrConst const& value) {
-  Row const* const row = placedRow(Table::rows, op.attrId);
+  Row const* const row = placedRow<Table>(op.attrId);
   if (!row) [[unlikely]]
     return performSearched<Table>(face, op, index, value);
   return perform(*row, Table::objectOf(face), face, op.opId, index, value);

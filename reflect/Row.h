@@ -49,11 +49,18 @@ struct Row {
   std::span<Argument const> arguments = {};
 };
 
-/// The attribute of that number, if the place tells: numbers mostly follow each other from the
-/// first row on.  Null otherwise.
-inline Row const* placedRow(std::span<Row const> rows, Mox::AttributeId id) {
-  std::size_t const place = id - rows.front().id;
-  return place < rows.size() && rows[place].id == id ? &rows[place] : nullptr;
+/// How many rows from the first on have numbers that follow each other: mostly all but the last.
+constexpr std::size_t placedCount(std::span<Row const> rows) {
+  std::size_t count = 0;
+  while (count < rows.size() && rows[count].id == rows.front().id + count) ++count;
+  return count;
+}
+/// The attribute of that number, if its place among the rows of `Table` tells; null otherwise.
+template <class Table>
+Row const* placedRow(Mox::AttributeId id) {
+  constexpr std::size_t placed = placedCount(Table::rows);
+  std::size_t const place = id - Table::rows[0].id;
+  return place < placed ? &Table::rows[place] : nullptr;
 }
 
 /// The attribute of that number; null where there is none.
