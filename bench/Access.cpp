@@ -2,12 +2,11 @@
 //
 // Run:  build/release/bin/bench_Access --benchmark_repetitions=9
 //           --benchmark_report_aggregates_only=true --benchmark_enable_random_interleaving=true
-// Read: compare medians of one run, as ratios. `floor` is a switch over numbers behind a call into
-// a
-//       shared library. Ours include the interface that is handed out or taken in. Bounds: by
-//       number ahead of each peer that is there (cmake says which aren't), aim 2.5 ns; by name at
-//       most 12 ns; a walk through the interface, key and value of each element looked at, at most
-//       5 times the typed one.
+// Read: compare medians of one run, as ratios. `floor` is a switch over numbers behind a call
+//       into a shared library. Ours include the interface that is handed out or taken in. Bounds:
+//       by number ahead of each peer that is there (cmake says which aren't), aim 2.5 ns; by name
+//       at most 12 ns; a walk through the interface, key and value of each element looked at, at
+//       most 5 times the typed one.
 #include "Kestrel/Kestrel.h"
 #include "XpLib/XpTableCliHelper.h"
 #include "bench/floor/Floor.h"

@@ -14,7 +14,7 @@ namespace frame {
 template <class A>
 concept EntityAttribute = std::derived_from<typename A::Owner, Mox::Entity>;
 
-/// Tells the notifiees that attribute `A` has changed, unless the only one doesn't hear.  An entity
+/// Tells the notifiees that attribute `A` has changed, unless none of them hears.  An entity
 /// that nobody watches pays one compare.
 template <EntityAttribute A>
 void notify(typename A::Owner& owner) {

@@ -10,7 +10,7 @@ void Snapshot::dropLast(Notifiee const& member) {
   scope.open();
 }
 
-void hookFailed(Notifiee& member, Mox::AttributeId id) { member.onNotificationException(id); }
+void Snapshot::report(Notifiee& member, Mox::AttributeId id) { member.onNotificationException(id); }
 
 template void deliver<EveryLevel>(Mox::BaseCollection const&, Mox::AttributeId, EveryLevel, Hook<>);
 template void deliver<OneLevel>(Mox::BaseCollection const&, Mox::AttributeId, OneLevel, Hook<>);

@@ -5,7 +5,6 @@
 #include "Mox/ListRaw.h"
 
 #include <array>
-#include <concepts>
 #include <cstddef>
 
 namespace frame {
@@ -16,7 +15,9 @@ using Notifiee = Mox::PtrInterface::NotifieeConst;
 class Snapshot {
  public:
   /// Where the caller lets the members stand; more of them than it holds need an allocation.
+  /// An object of its own, so that the snapshot's parts can be kept in registers.
   using Room = std::array<Notifiee*, 16>;
+  /// Where a member stands in the snapshot.
   using Place = Notifiee* const*;
 
   Snapshot(Mox::BaseCollection const& list, Room& room)
@@ -40,28 +41,31 @@ class Snapshot {
 
   Place begin() const noexcept { return first_; }
   Place end() const noexcept { return end_; }
-  /// Drops the member at `at`.
+  /// Drops the member at `at`.  A member that ends does so outside of the innermost `Expect`, which
+  /// is the delivery's: its destructor is no hook.
   static void drop(Place at) {
     if ((*at)->referencesDecIsLast()) [[unlikely]]
       dropLast(**at);
   }
-  /// Says that the walk may end here by an exception: the members from `at` on are then dropped
-  /// with the snapshot.
-  // Otherwise the walk alone knows its place, and can keep it in a register.
-  void leftAt(Place at) noexcept { left_ = at; }
+  /// Tells the member at `at` that its hook for attribute `id` raised the exception that is in
+  /// flight.  Where that raises another, the members from `at` on are dropped with the snapshot.
+  void hookFailed(Place at, Mox::AttributeId id) {
+    left_ = at;
+    report(**at, id);
+    left_ = nullptr;
+  }
 
  private:
-  // The delivery is over for a member that ends, and so is what it expected.
+  // Without `this`: a snapshot that nobody points at can be kept in registers.
+  static void report(Notifiee& member, Mox::AttributeId id);
   static void dropLast(Notifiee const& member);
 
   Notifiee** first_;
   Notifiee** end_;
+  // Where the walk ends by an exception: otherwise it alone knows its place, in a register.
   Place left_ = nullptr;
   bool overflows_;
 };
-
-/// Tells `member` that its hook for attribute `id` raised the exception that is in flight.
-void hookFailed(Notifiee& member, Mox::AttributeId id);
 
 /// A hook of some observer class, seen as one of the common base.
 template <class... Key>
@@ -75,17 +79,19 @@ using EveryLevel = std::nullptr_t;
 inline bool isOf(Notifiee const&, EveryLevel) { return true; }
 inline bool isOf(Notifiee const& member, OneLevel level) { return member.moxIsOf(level); }
 
-/// Calls `hook` on each member of a snapshot of `list`, in order.
+/// Calls `hook` on each member of a snapshot of `list`, in order, whether they hear or not.
 ///
 /// Members that aren't of `level` are passed over (`EveryLevel`: all are of the right class); so
 /// are, but for the first, members that only the snapshot still holds.  A hook that throws is
 /// reported to its own notifiee as `onNotificationException(id)` and the others still run; what
 /// that throws ends the delivery and passes on.
 template <class Level, class... Key>
-[[gnu::noinline]] void deliver(Mox::BaseCollection const& list, Mox::AttributeId id, Level level,
-                               Hook<Key...> hook, Key const&... key) {
+[[gnu::always_inline]] inline void deliverToAll(Mox::BaseCollection const& list,
+                                                Mox::AttributeId id, Level level, Hook<Key...> hook,
+                                                Key const&... key) {
   Snapshot::Room room;
   Snapshot members(list, room);
+  // One scope around all hooks: between two of them only the end of a member could see it.
   Mox::Expect const nothing(0);
   Snapshot::Place const end = members.end();
   Snapshot::Place at = members.begin();
@@ -95,15 +101,20 @@ template <class Level, class... Key>
       try {
         (member.*hook)(key...);
       } catch (...) {
-        members.leftAt(at);
-        hookFailed(member, id);
-        members.leftAt(nullptr);
+        members.hookFailed(at, id);
       }
     }
     do {
       Snapshot::drop(at++);
     } while (at != end && (*at)->references() == 1);
   }
+}
+
+/// The same where anybody in the list hears, and nothing otherwise.
+template <class Level, class... Key>
+[[gnu::noinline]] void deliver(Mox::BaseCollection const& list, Mox::AttributeId id, Level level,
+                               Hook<Key...> hook, Key const&... key) {
+  if (list.anyHears()) deliverToAll(list, id, level, hook, key...);
 }
 
 extern template void deliver<EveryLevel>(Mox::BaseCollection const&, Mox::AttributeId, EveryLevel,

@@ -66,7 +66,8 @@ void observerGone(Notifiee& member, ListOf listOf) {
 void zeroReferences(Mox::BaseCollection const& list) {
   constexpr Mox::AttributeId zeroReferencesId = 5;
   if (list.empty()) return;
-  deliver(list, zeroReferencesId, nullptr, &Notifiee::onZeroReferences);
+  // Of the last reference those are told too that don't hear.
+  deliverToAll(list, zeroReferencesId, EveryLevel(), &Notifiee::onZeroReferences);
 }
 
 }  // namespace frame

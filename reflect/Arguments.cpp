@@ -46,6 +46,7 @@ void assignFields(std::span<Row const> rows, GenericIf::PtrConst const& list, vo
                   char const* type) {
   List::Entries entries;
   List::entriesOf(list, entries);
+  // All types are checked before the first field is written.
   std::vector<std::pair<Row const*, GenericIf::PtrConst>> assigned;
   auto entry = entries.begin();
   for (Row const& row : rows) {

@@ -404,6 +404,19 @@ TEST_F(BatchTest, TurnedToAnotherEntityItForgetsWhatItNoted) {
   EXPECT_EQ(run(), "");
 }
 
+TEST_F(BatchTest, TurnedToAnotherEntityItForgetsTheKeysOfTheFormer) {
+  batched();
+  entity->bytesIs(1, 1);
+  entity->marksIs(2, true);
+  Ptr<everyShape::Derived> const other = new everyShape::Derived("e1", 8);
+  face->notifierIs(other);
+  other->bytesIs(7, 7);
+  EXPECT_EQ(run(), "267 7;");
+  other->wordsIs(8, "w");
+  other->bytesIs(9, 9);
+  EXPECT_EQ(run(), "267 9;268 8;") << "and no word of the former one's marks";
+}
+
 // It lost what it had noted.
 TEST_F(BatchTest, TurnedToItsOwnEntityItForgetsNothing) {
   batched();

@@ -38,24 +38,12 @@ GenericIf::Ptr faceOf(Mox::Ptr<T> const& target, frame::TypeOf declared, bool is
 template <class T>
 struct Held {
   static T const& at(void const* held) { return *static_cast<T const*>(held); }
-  /// The same out of `given`; raises `TypeException` with `name` unless that holds one.
-  static T const& required(GenericIf::PtrConst const& given, [[maybe_unused]] frame::TypeOf type,
-                           char const* name) {
-    if constexpr (Mox::Primitive<T>)
-      return Mox::Builtin<T>::required(given.ptr(), name);
-    else
-      return at(GenericIf::requireHeld(given.ptr(), type(), name));
-  }
 };
 template <class T>
 struct Held<Mox::Ptr<T>> {
   static Mox::Ptr<T> at(void const* held) {
     auto* const object = *static_cast<Mox::PtrInterface* const*>(held);
     return static_cast<T*>(object);
-  }
-  static Mox::Ptr<T> required(GenericIf::PtrConst const& given, frame::TypeOf type,
-                              char const* name) {
-    return at(GenericIf::requireHeld(given.ptr(), type(), name));
   }
 };
 

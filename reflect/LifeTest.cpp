@@ -216,4 +216,13 @@ TEST_F(LifeTest, WhoTakesAReferenceInTheLastMomentKeepsTheEntity) {
   saver->notifierIs(nullptr);
 }
 
+TEST_F(LifeTest, NobodyHearsThroughAnInterfaceUntilItIsWatched) {
+  Ptr<everyShape::Derived> const other = new everyShape::Derived("e1", 8);
+  Face const unwatched(other);
+  EXPECT_EQ(other->moxNotifiees().count(), 2u) << "an adapter of each level";
+  EXPECT_FALSE(other->moxNotifiees().anyHears());
+  watch(unwatched);
+  EXPECT_TRUE(other->moxNotifiees().anyHears());
+}
+
 }  // namespace

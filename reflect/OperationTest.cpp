@@ -1,4 +1,5 @@
 // Operations and constructors by number: their arguments, and what they hand out.
+#include "reflect/Steps.h"
 #include "reflect/TestLanguage.h"
 
 #include <gtest/gtest.h>
@@ -164,6 +165,36 @@ TEST_F(ConstructorTest, AClassWithTheNameAloneHasNone) {
   auto const groves = everyShape::Grove::_fwkType()->genericIf_(nullptr, false);
   EXPECT_EQ(refusal([&] { groves->genericIfListConstructor(list()); }),
             "OpNotSupported: 'Grove' is not made of a list of arguments");
+}
+
+/// An interface that is constant no longer once it has gone.
+class Fleeting : public GenericIf {
+ public:
+  Fleeting() : GenericIf(Mox::Builtin<void>::_fwkType(), true) {}
+  ~Fleeting() override { isConstIs(false); }
+  Ptr clone() override { return new Fleeting; }
+  Mox::String8 strRep() const override { return "fleeting"; }
+};
+
+/// Lets go of the interface that it is asked through.
+struct Ungrateful : Mox::PtrInterface {
+  GenericIf::Ptr face = new Fleeting;
+  U32 seven() const {
+    const_cast<Ungrateful*>(this)->face = nullptr;
+    return 7;
+  }
+};
+
+TEST(StepsTest, WhatIsReadOrCalledMayLetGoOfTheInterface) {
+  constexpr reflect::Row row = {.id = 1,
+                                .name = "seven",
+                                .type = Mox::Builtin<U32>::_fwkType,
+                                .read = reflect::read<&Ungrateful::seven>,
+                                .call = reflect::call<&Ungrateful::seven>};
+  Mox::Ptr<Ungrateful> const read = new Ungrateful;
+  EXPECT_TRUE(row.read(row, read.ptr(), *read->face)->isConst());
+  Mox::Ptr<Ungrateful> const called = new Ungrateful;
+  EXPECT_TRUE(row.call(row, called.ptr(), *called->face, nullptr)->isConst());
 }
 
 }  // namespace

@@ -56,12 +56,6 @@ GenericIf::Ptr performOnCollection(Row const& row, void* object, GenericIf const
 
 }  // namespace
 
-Row const* rowOf(std::span<Row const> rows, Mox::AttributeId id) {
-  for (Row const& row : rows)
-    if (row.id == id) return &row;
-  return nullptr;
-}
-
 void nullObject(GenericIf const& face) {
   Mox::throwRangeException("null " + face.type()->moxName().stringValue());
 }

@@ -3,6 +3,8 @@
 
 #include "reflect/Row.h"
 
+#include <concepts>
+
 namespace reflect {
 
 /// Raises `RangeException` "null <type>".
@@ -29,27 +31,39 @@ inline GenericIf::Ptr perform(Row const& row, void* object, GenericIf const& fac
   return performOther(row, object, face, op, index, value);
 }
 
+/// What an interface says of its class: the rows, the object that they are about, and what becomes
+/// of a number that they don't have.
+template <class Table, class Face>
+concept TableOf = requires(Face& face, GenericIf::AttributeOp op,
+                           GenericIf::PtrConst const& given) {
+  { rowOf(Table::rows, op.attrId) } -> std::same_as<Row const*>;
+  { Table::objectOf(face) } -> std::convertible_to<void*>;
+  { Table::performWithoutRow(face, op, given, given) } -> std::convertible_to<GenericIf::Ptr>;
+};
+
+/// The rest of `performByTable`.
+// Apart, so that the usual way keeps its arguments in registers.
 template <class Table, class Face>
 [[gnu::noinline]] GenericIf::Ptr performSearched(Face& face, GenericIf::AttributeOp op,
                                                  GenericIf::PtrConst const& index,
                                                  GenericIf::PtrConst const& value) {
   Row const* const row = rowOf(Table::rows, op.attrId);
-  if (!row) return Table::performUnknown(face, op, index, value);
+  if (!row) return Table::performWithoutRow(face, op, index, value);
   return perform(*row, Table::objectOf(face), face, op.opId, index, value);
 }
 
-/// `attributeOp` of an interface whose class has that table: its rows, the object that they are
-/// about, and what becomes of numbers that aren't there.
+/// `attributeOp` of `face`.
 template <class Table, class Face>
-GenericIf::Ptr performBy(Face& face, GenericIf::AttributeOp op, GenericIf::PtrConst const& index,
-                         GenericIf::PtrConst const& value) {
+requires TableOf<Table, Face> GenericIf::Ptr performByTable(Face& face, GenericIf::AttributeOp op,
+                                                            GenericIf::PtrConst const& index,
+                                                            GenericIf::PtrConst const& value) {
   Row const* const row = placedRow<Table>(op.attrId);
   if (!row) [[unlikely]]
     return performSearched<Table>(face, op, index, value);
   return perform(*row, Table::objectOf(face), face, op.opId, index, value);
 }
 
-/// The same for an attribute of the base of a value's type, of which `held` is the base's part; one
+/// `attributeOp` for an attribute of the base of a value's type; `held` is the base's part.  One
 /// that the base doesn't have either is unknown to the type of `face`.
 GenericIf::Ptr performInBase(GenericIf const& face, void const* held, GenericIf::AttributeOp op,
                              GenericIf::PtrConst const& index, GenericIf::PtrConst const& value);

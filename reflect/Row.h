@@ -13,14 +13,15 @@ using Mox::GenericIf;
 struct Row;
 
 /// The typed steps of a collection.  `object` is whose attribute is asked for: an entity, an
-/// object, or the copy that a value's interface holds.  Keys and values come as addresses of what
-/// interfaces hold.
-// Two parameters and no record of both, which compilers pass through memory.
+/// object, or the copy that the value's interface `face` holds.  Keys and values come as addresses
+/// of what interfaces hold, their types checked.
+// `object` and `face` come apart: a record of the two would be passed through memory.
 struct Collection {
   U32 (*count)(void const* object);
   U32 (*changes)(void const* object);
   bool (*isMember)(void const* object, void const* key);
-  GenericIf::Ptr (*read)(Row const& row, void* object, GenericIf const& face, void const* key);
+  GenericIf::Ptr (*read)(Row const& row, void const* object, GenericIf const& face,
+                         void const* key);
   void (*write)(void* object, void const* key, void const* value);  ///< null: not by key
   void (*enter)(void* object, void const* value);                   ///< null: not by its own key
   void (*erase)(void* object, void const* key);
@@ -35,7 +36,9 @@ struct Argument {
   frame::TypeOf type;
 };
 
-/// One attribute.  What it can't do has no step; `fwkKey` and its like have none at all.
+/// One attribute.  `object` and `face` are as in `Collection`; `write` checks the type of `value`
+/// itself, and raises `TypeException` with the row's name.  What an attribute can't do has no step;
+/// `fwkKey` and its like have none at all.
 struct Row {
   Mox::AttributeId id;
   char const* name;
@@ -49,7 +52,8 @@ struct Row {
   std::span<Argument const> arguments = {};
 };
 
-/// How many rows from the first on have numbers that follow each other: mostly all but the last.
+/// How many rows from the first on have numbers that follow each other: mostly all but the
+/// runtime's, which stand last.
 constexpr std::size_t placedCount(std::span<Row const> rows) {
   std::size_t count = 0;
   while (count < rows.size() && rows[count].id == rows.front().id + count) ++count;
@@ -63,7 +67,7 @@ Row const* placedRow(Mox::AttributeId id) {
   return place < placed ? &Table::rows[place] : nullptr;
 }
 
-/// The attribute of that number; null where there is none.
+/// The attribute of that number; null where there is none.  Searches, as `placedRow` doesn't.
 Row const* rowOf(std::span<Row const> rows, Mox::AttributeId id);
 
 /// The same, of collections alone.

@@ -28,30 +28,40 @@ using ClassOf = typename MemberOf<decltype(member)>::Class;
 /// Reads by the accessor `get`.
 template <auto get>
 GenericIf::Ptr read(Row const& row, void const* object, GenericIf const& face) {
-  return faceOf((static_cast<ClassOf<get> const*>(object)->*get)(), row.type, face.isConst());
+  bool const isConst = face.isConst();  // ahead of code that may let go of the interface
+  return faceOf((static_cast<ClassOf<get> const*>(object)->*get)(), row.type, isConst);
 }
 
+/// What `value` holds, for the attribute of `row`; raises `TypeException` with the row's name for
+/// another type.
 template <class Value>
-using OneValue = Held<Value>;
+struct OneValue {
+  static decltype(auto) of(Row const& row, GenericIf::PtrConst const& value) {
+    if constexpr (Mox::Primitive<Value>)
+      return Mox::Builtin<Value>::required(value.ptr(), row.name);
+    else
+      return Held<Value>::at(GenericIf::requireHeld(value.ptr(), row.type(), row.name));
+  }
+};
 
 /// Writes by the mutator `set`.
 template <auto set>
 void write(Row const& row, void* object, GenericIf::PtrConst const& value) {
   using Value = typename MemberOf<decltype(set)>::template Arguments<OneValue>;
-  (static_cast<ClassOf<set>*>(object)->*set)(Value::required(value, row.type, row.name));
+  (static_cast<ClassOf<set>*>(object)->*set)(Value::of(row, value));
 }
 
 /// Writes the one field of a `Record` by its constructor, with the check that it makes.
 template <class Record, class Field>
 void construct(Row const& row, void* record, GenericIf::PtrConst const& value) {
-  *static_cast<Record*>(record) = Record(Held<Field>::required(value, row.type, row.name));
+  *static_cast<Record*>(record) = Record(OneValue<Field>::of(row, value));
 }
 
 /// Writes the field of a record that stands `offset` bytes behind its start.
 template <class Field, std::size_t offset>
 void store(Row const& row, void* record, GenericIf::PtrConst const& value) {
   auto* const place = static_cast<std::byte*>(record) + offset;
-  *reinterpret_cast<Field*>(place) = Held<Field>::required(value, row.type, row.name);
+  *reinterpret_cast<Field*>(place) = OneValue<Field>::of(row, value);
 }
 
 /// Types of arguments, in order.
@@ -79,14 +89,16 @@ template <auto operation>
 GenericIf::Ptr call(Row const& row, void* object, GenericIf const& face,
                     [[maybe_unused]] void const* const* arguments) {
   using Member = MemberOf<decltype(operation)>;
-  auto* const whose = static_cast<typename Member::Class*>(object);
-  auto const perform = [whose](auto const&... given) { return (whose->*operation)(given...); };
+  auto* const owner = static_cast<typename Member::Class*>(object);
+  [[maybe_unused]] bool const isConst =
+      face.isConst();  // ahead of what may let go of the interface
+  auto const perform = [owner](auto const&... given) { return (owner->*operation)(given...); };
   using Given = typename Member::template Arguments<Types>;
   if constexpr (std::is_void_v<typename Member::Result>) {
     Given::apply(arguments, perform);
     return nullptr;
   } else {
-    return faceOf(Given::apply(arguments, perform), row.type, face.isConst());
+    return faceOf(Given::apply(arguments, perform), row.type, isConst);
   }
 }
 

@@ -15,16 +15,13 @@ class Walk : public GenericIf::IteratorState {
 
   /// `keeper` keeps the collection while this walk stands in it.
   Walk(Row const& row, Mox::PtrInterface const* keeper, Iterator const& at)
-      : IteratorState(static_cast<bool>(at)), row_(row), keeper_(keeper), at_(at) {}
+      : row_(row), keeper_(keeper), at_(at) {}
 
   GenericIf::Ptr obj(bool isConst) const override {
     return faceOf(at_.value(), row_.type, isConst);
   }
   GenericIf::PtrConst key() const override { return faceOf(at_.key(), row_.key, true); }
-  void inc() override {
-    ++at_;
-    nonNullIs(static_cast<bool>(at_));
-  }
+  bool inc() override { return static_cast<bool>(++at_); }
   Mox::Ptr<GenericIf::IteratorState> clone() const override {
     return new Walk(row_, keeper_.ptr(), at_);
   }
@@ -50,8 +47,10 @@ struct CollectionOf {
   static bool isMember(void const* object, void const* key) {
     return A::map(of(object)).isMember(keyAt(key));
   }
-  static GenericIf::Ptr read(Row const& row, void* object, GenericIf const& face, void const* key) {
-    return faceOf(A::read(of(object), keyAt(key)), row.type, face.isConst());
+  static GenericIf::Ptr read(Row const& row, void const* object, GenericIf const& face,
+                             void const* key) {
+    bool const isConst = face.isConst();
+    return faceOf(A::read(of(object), keyAt(key)), row.type, isConst);
   }
   static void write(void* object, void const* key, void const* value) {
     A::write(of(object), keyAt(key), Held<typename A::Value>::at(value));
@@ -67,7 +66,8 @@ struct CollectionOf {
     Mox::PtrInterface const* keeper = &face;  // which holds a value's copy
     if constexpr (std::derived_from<Owner, Mox::PtrInterface>) keeper = &owner;
     auto& map = A::map(owner);
-    return new Walk<A>(row, keeper, key ? Iterator(map, keyAt(key)) : Iterator(map));
+    Iterator const at = key ? Iterator(map, keyAt(key)) : Iterator(map);
+    return at ? new Walk<A>(row, keeper, at) : nullptr;
   }
 };
 

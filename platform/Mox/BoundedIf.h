@@ -39,10 +39,7 @@ class BoundedIf : public GenericIf {
  private:
   using Storage = typename T::Storage;
 
-  static Storage numberOf(PtrConst const& given) {
-    return *static_cast<Storage const*>(
-        requireHeld(given.ptr(), Builtin<Storage>::_fwkType(), "value"));
-  }
+  static Storage numberOf(PtrConst const& given) { return primitiveIn<Storage>(given); }
 
   T value_;
 };

@@ -3,6 +3,7 @@
 
 #include "Mox/MoxType.h"
 
+#include <atomic>
 #include <concepts>
 #include <type_traits>
 
@@ -16,7 +17,6 @@ concept AnyOf = (std::same_as<T, Others> || ...);
 template <class T>
 concept Primitive = AnyOf<T, bool, U8, S8, U16, U32, S32, U64, double, String8, Name, void*>;
 
-/// The interface of a primitive.
 template <class T>
 class PrimitiveIf;
 
@@ -28,18 +28,20 @@ struct Builtin {
   using Passed = std::conditional_t<std::is_scalar_v<T>, T, T const&>;
 
   static MoxType* _fwkType() {
-    if (MoxType* const type = type_) [[likely]]
+    if (MoxType* const type = type_.load(std::memory_order_acquire)) [[likely]]
       return type;
     return makeType();
   }
   /// The interface of a value.  They come and go without the heap: one of each type, once its user
   /// has let it go, serves again.
   static GenericIf::Ptr genericIf(Passed value, bool isConst);
-  /// The value that `face` holds, for as long as it holds it; raises `TypeException` with `name`
-  /// unless that is a `T`.
-  static T const& required(GenericIf const* face, char const* name) {
+  /// The value that `face` holds; raises `TypeException` with `name` unless that is a `T`.
+  static Passed required(GenericIf const* face, char const* name) {
     // Before the type is made, no interface is of it.
-    return *static_cast<T const*>(GenericIf::requireHeld(face, type_, _fwkType, name));
+    auto const* held = GenericIf::heldBy(face, type_.load(std::memory_order_acquire));
+    if (!held) [[unlikely]]
+      held = requiredOther(face, name);
+    return *static_cast<T const*>(held);
   }
 
  private:
@@ -47,8 +49,9 @@ struct Builtin {
   /// A new one, held once for the caller.
   // No pointer object comes back, for it would have an address, and couldn't be kept in a register.
   static GenericIf* makeIf(Passed value, bool isConst);
+  static void const* requiredOther(GenericIf const* face, char const* name);
 
-  static MoxType* type_;
+  static std::atomic<MoxType*> type_;
   /// What is read and let go again and again: one interface stays, with what it held last.
   static PrimitiveIf<T>* spare_;
 };
@@ -59,23 +62,25 @@ struct Builtin<void> {
   static MoxType* _fwkType();
 };
 
+/// The interface of a primitive.
 template <class T>
 class PrimitiveIf : public GenericIf {
  public:
   PrimitiveIf(T const& value, bool isConst);
 
-  // A value has nothing to observe: nothing is kept that its next use could find.
+  // A value has nothing to observe: its next use mustn't find whom somebody had it observe.
   void notifierIs(Mox::Ptr<PtrInterface const> const&) override {}
   void mox_bitSetIs(Mox_BitSet) override {}
 
   Ptr clone() override;
   String8 strRep() const override;
 
-  /// Hands this interface out with another value, if nobody but the keeper of spares holds it.
+  /// Hands this interface out with another value, held by its keeper and the caller; false, and
+  /// nothing done, where somebody else holds it or its flags aren't those of a new one.
   bool servesAgain(typename Builtin<T>::Passed value, bool isConst) {
     constexpr U32 kept = ReferenceWord::notificationActive | 1;
     if (referenceWord() != kept) return false;
-    // Stored, not counted up: the count that was dropped last needn't have reached the memory yet.
+    // Stored, not counted up: the new word doesn't wait for the one that was compared.
     referenceWord_ = ReferenceWord(kept + 1);
     value_ = value;
     isConstIs(isConst);
@@ -86,24 +91,39 @@ class PrimitiveIf : public GenericIf {
   T value_;
 };
 
-// Inline, with the spare one in sight: each read by number hands one out.
+// With the spare one in sight: each read by number hands one out.  `makeIf` keeps none where the
+// sanitizer looks on.
 template <class T>
-GenericIf::Ptr Builtin<T>::genericIf(Passed value, bool isConst) {
+inline GenericIf::Ptr Builtin<T>::genericIf(Passed value, bool isConst) {
   PrimitiveIf<T>* const spare = spare_;
   if (spare && !ReferenceWord::threadSafe && spare->servesAgain(value, isConst)) [[likely]]
     return Ptr<GenericIf>::adopt(spare);
   return Ptr<GenericIf>::adopt(makeIf(value, isConst));
 }
 
+extern template struct Builtin<bool>;
+extern template struct Builtin<U8>;
+extern template struct Builtin<S8>;
+extern template struct Builtin<U16>;
+extern template struct Builtin<U32>;
+extern template struct Builtin<S32>;
+extern template struct Builtin<U64>;
+extern template struct Builtin<double>;
+extern template struct Builtin<String8>;
+extern template struct Builtin<Name>;
+extern template struct Builtin<void*>;
+
+/// The interface of a copy of `value`; see `Builtin::genericIf`.
 template <Primitive T>
 GenericIf::Ptr primitiveIf(T const& value, bool isConst) {
   return Builtin<T>::genericIf(value, isConst);
 }
 
-/// The value that `face` holds, for as long as it holds it; raises `TypeException` "value" unless
-/// that is a `T`.
+/// The value that `face` holds: a number by value, a text or name by a reference that is good while
+/// the caller holds `face`.  Raises `TypeException` "wrong type for 'value'" unless that is a `T`.
 template <Primitive T, class Face>
-T const& primitiveIn(Ptr<Face> const& face) {
+requires std::derived_from<std::remove_const_t<Face>, GenericIf>
+typename Builtin<T>::Passed primitiveIn(Ptr<Face> const& face) {
   return Builtin<T>::required(face.ptr(), "value");
 }
 

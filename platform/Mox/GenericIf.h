@@ -42,7 +42,8 @@ class GenericIf : public PtrInterface::NotifieeConst {
   class IteratorState;
   class List_;
 
-  /// Null: no index, no value.
+  /// Null, for an index or value that isn't given.  Spares the caller the temporary that `nullptr`
+  /// makes.
   static PtrConst const notGiven;
 
   GenericIf(MoxType const* type, bool isConst) : type_(type), isConst_(isConst) {}
@@ -111,16 +112,14 @@ class GenericIf : public PtrInterface::NotifieeConst {
   [[noreturn]] static void throwUnknownAttrException(String8 const& type);
   [[noreturn]] static void throwUnknownArgException(String8 const& type);
 
+  /// The address of what `given` holds, if it says that it is of the very `type`; null otherwise.
+  static void const* heldBy(GenericIf const* given, MoxType const* type) noexcept {
+    return given && given->type_ == type ? given->held_ : nullptr;
+  }
   /// The address of what `given` holds; raises `TypeException` with `name` unless it is a `type`.
   static void const* requireHeld(GenericIf const* given, MoxType const* type, char const* name) {
     auto const* const held = heldBy(given, type);
     return held ? held : requireOther(given, type, name);
-  }
-  /// The same of a type that may not be made yet, and is null then; `typeOf` makes it.
-  static void const* requireHeld(GenericIf const* given, MoxType const* type, MoxType* (*typeOf)(),
-                                 char const* name) {
-    auto const* const held = heldBy(given, type);
-    return held ? held : requireMade(given, typeOf, name);
   }
 
  protected:
@@ -134,13 +133,10 @@ class GenericIf : public PtrInterface::NotifieeConst {
   void isConstIs(bool isConst) noexcept { isConst_ = isConst; }
 
  private:
+  // Out of line, so that no caller of `requireWritable` makes the text.
   [[noreturn]] static void refuseWrite();
-  static void const* heldBy(GenericIf const* given, MoxType const* type) noexcept {
-    return given && given->type_ == type ? given->held_ : nullptr;
-  }
   // A class of its own may hold the type all the same.
   static void const* requireOther(GenericIf const* given, MoxType const* type, char const* name);
-  static void const* requireMade(GenericIf const* given, MoxType* (*typeOf)(), char const* name);
 
   MoxType const* type_;  // immortal
   void const* held_ = nullptr;
@@ -150,30 +146,21 @@ class GenericIf : public PtrInterface::NotifieeConst {
 /// What an iterator keeps of one walk: the collection, held by its owner, and the position.
 class GenericIf::IteratorState : public PtrInterface {
  public:
-  /// False at the end, where the next three mustn't be called.
-  bool nonNull() const noexcept { return nonNull_; }
   virtual Ptr obj(bool isConst) const = 0;
   virtual PtrConst key() const = 0;
-  virtual void inc() = 0;
+  /// Steps on; false at the end, where nothing may be called any more.
+  virtual bool inc() = 0;
   virtual Mox::Ptr<IteratorState> clone() const = 0;
-
- protected:
-  explicit IteratorState(bool nonNull) noexcept : nonNull_(nonNull) {}
-  void nonNullIs(bool nonNull) noexcept { nonNull_ = nonNull; }
-
- private:
-  bool nonNull_;
 };
 
 /// A walk over one collection of the interface that made it, which it keeps.  A copy walks on by
-/// itself.  The null iterator is at the end.
+/// itself.  The null iterator is at the end; there it has let go of the collection.
 class GenericIf::AttributeIteratorConst {
  public:
   AttributeIteratorConst() = default;
+  /// `state` stands on an element, or is null.
   AttributeIteratorConst(PtrConst const& genericIf, Mox::Ptr<IteratorState> state)
-      : genericIf_(genericIf), state_(std::move(state)) {
-    letGoAtEnd();
-  }
+      : genericIf_(genericIf), state_(std::move(state)) {}
   AttributeIteratorConst(AttributeIteratorConst const& other)
       : AttributeIteratorConst(other.genericIf_, other.state_ ? other.state_->clone() : nullptr) {}
   AttributeIteratorConst(AttributeIteratorConst&& other) noexcept = default;
@@ -185,9 +172,7 @@ class GenericIf::AttributeIteratorConst {
 
   explicit operator bool() const noexcept { return static_cast<bool>(state_); }
   AttributeIteratorConst& operator++() {
-    if (!state_) return *this;
-    state_->inc();
-    letGoAtEnd();
+    if (state_ && !state_->inc()) state_ = nullptr;
     return *this;
   }
   /// The element, as constant as the interface; null at the end.
@@ -198,10 +183,6 @@ class GenericIf::AttributeIteratorConst {
   void clear() noexcept { state_ = nullptr; }
 
  private:
-  void letGoAtEnd() {
-    if (state_ && !state_->nonNull()) state_ = nullptr;
-  }
-
   PtrConst genericIf_;
   Mox::Ptr<IteratorState> state_;  // null at the end
 };

@@ -21,8 +21,13 @@ class BaseCollection {
   U32 count() const noexcept { return count_; }
   bool empty() const noexcept { return head_ == nullptr; }
   Member* head() const noexcept { return head_; }
-  /// False for an empty list, and for one whose only member doesn't hear.
-  // Two that don't hear are told for nothing, for each mutator asks this.
+  /// Whether any member hears.  Linear in those that don't, ahead of the first that does.
+  bool anyHears() const noexcept {
+    Member const* at = head_;
+    while (at && !at->moxHears()) at = at->next_;
+    return at != nullptr;
+  }
+  /// The same, but that several are taken to hear: for each mutator asks this first.
   bool anyMayHear() const noexcept { return head_ && (head_->moxHears() || head_->next_); }
   static Member* next(Member const* member) noexcept { return member->next_; }
 

@@ -85,8 +85,8 @@ class PtrInterface::NotifieeConst : public PtrInterface {
   }
 
   /// False for one whose hooks would do nothing, such as the adapter of an interface that nobody
-  /// watches: an entity with one such alone in its list passes its changes over.  It is told of the
-  /// last reference all the same.
+  /// watches: an entity with none but such in its list passes its changes over.  They are told of
+  /// its last reference all the same.
   bool moxHears() const noexcept { return hears_; }
   void moxHearsIs(bool hears) noexcept { hears_ = hears; }
 

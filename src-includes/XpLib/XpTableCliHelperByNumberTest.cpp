@@ -132,8 +132,7 @@ TEST(XpTableCliHelperByNumberTest, TheReportsAreCalledByNumber) {
   auto const of = faceOf(reports);
   auto const report = [&](Mox::AttributeId id, GenericIf::PtrConst const& argument = nullptr) {
     auto const text = of->attributeOp({id, GenericIf::opWrite}, nullptr, argument);
-    return *static_cast<Mox::String8 const*>(
-        text->voidPtrIs(Mox::Builtin<Mox::String8>::_fwkType()));
+    return Mox::String8(Mox::primitiveIn<Mox::String8>(text));
   };
   EXPECT_EQ(report(132), reports->displayAllDynamicTablesSummary());
   EXPECT_EQ(report(133), reports->displayAllDynamicTablesDetail());

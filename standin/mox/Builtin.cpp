@@ -82,14 +82,20 @@ String8 PrimitiveIf<T>::strRep() const {
 }
 
 template <class T>
-constinit MoxType* Builtin<T>::type_ = nullptr;
+constinit std::atomic<MoxType*> Builtin<T>::type_ = nullptr;
 template <class T>
 constinit PrimitiveIf<T>* Builtin<T>::spare_ = nullptr;
 
 template <class T>
 MoxType* Builtin<T>::makeType() {
   static MoxType* const made = immortal(new PrimitiveType<T>(nameOf<T>));
-  return type_ = made;
+  type_.store(made, std::memory_order_release);
+  return made;
+}
+
+template <class T>
+void const* Builtin<T>::requiredOther(GenericIf const* face, char const* name) {
+  return GenericIf::requireHeld(face, _fwkType(), name);
 }
 
 template <class T>

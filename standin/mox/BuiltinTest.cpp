@@ -138,6 +138,19 @@ TYPED_TEST(PrimitiveTest, WhatIsHeldNeverChangesUnderItsHolder) {
   EXPECT_TRUE(first->isConst());
 }
 
+TYPED_TEST(PrimitiveTest, NoSpareIsHandedOutWhileCountsAreSafeForThreads) {
+  auto const former = primitiveIf(first<TypeParam>(), true).ptr();  // kept as the spare one
+  Mox::VFPtrInterface::enableThreadSafePointers = true;
+  auto const value = primitiveIf(last<TypeParam>(), false);
+  auto const other = primitiveIf(first<TypeParam>(), true);
+  Mox::VFPtrInterface::enableThreadSafePointers = false;
+  EXPECT_NE(value.ptr(), former);
+  EXPECT_NE(value, other);
+  EXPECT_EQ(primitiveIn<TypeParam>(value), last<TypeParam>());
+  EXPECT_EQ(primitiveIn<TypeParam>(other), first<TypeParam>());
+  EXPECT_EQ(primitiveIn<TypeParam>(primitiveIf(last<TypeParam>(), true)), last<TypeParam>());
+}
+
 TEST(BuiltinTest, OneThatServesAgainHasForgottenItsFormerUse) {
   primitiveIf(U32{7}, true)->moxMarkedForDeletionIs(true);
   auto const marked = primitiveIf(U32{8}, false);

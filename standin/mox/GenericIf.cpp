@@ -83,10 +83,6 @@ void const* GenericIf::requireOther(GenericIf const* given, MoxType const* type,
   throwTypeException(name);
 }
 
-void const* GenericIf::requireMade(GenericIf const* given, MoxType* (*typeOf)(), char const* name) {
-  return requireOther(given, typeOf(), name);
-}
-
 void GenericIf::refuseWrite() { throwConstException("attempting to modify a const instance"); }
 void GenericIf::throwConstException(String8 const& complaint) { throw ConstException(complaint); }
 void GenericIf::throwBadIndexAttrException(String8 const& attribute) {

@@ -17,7 +17,7 @@ TEST(AccessByNumberTest, TheExampleOfTheDocsDoesWhatItSays) {
   EXPECT_STREQ(eight->strRep().charPtr(), "8");
 
   Mox::AttributeId id = face->attributeId("fecCorrected");
-  face->attributeOp({id, Mox::GenericIf::opWrite}, nullptr, seven);
+  face->attributeOp({id, Mox::GenericIf::opWrite}, Mox::GenericIf::notGiven, seven);
   EXPECT_STREQ(face->attributeOp({id})->strRep().charPtr(), "7");
   U32 number = Mox::primitiveIn<U32>(face->attributeOp({id}));
   EXPECT_EQ(number, 7u);

@@ -14,7 +14,7 @@ constexpr std::array<std::string_view, 5> kindNames = {"primitive", "value", "en
 constexpr std::string_view mapMakes =
     "$name$ $name$Is new$Name$ $name$Del $name$DelAll $name$Notify $name$Count $name$Iterator "
     "$name$IteratorConst $name$_ Mox$Name$ $Name$Map NotifieeConst::on$Name$ "
-    "NotifieeConst::on$Name$moxImmediate NotifieeConst::$name$Pending Tags::$Name$";
+    "NotifieeConst::on$Name$moxImmediate Tags::$Name$";
 
 constexpr Shape shapeTable[] = {
     {.name = "param", .blocks = "entity object", .form = Form::type, .makes = "$name$ $name$_"},
@@ -59,7 +59,7 @@ constexpr Shape shapeTable[] = {
      .makes = "$name$ $name$Is new$Name$ $name$Del $name$DelAll $name$Notify $name$Count "
               "$name$Iterator $name$IteratorConst $name$_ Mox$Name$ $Name$Map "
               "NotifieeConst::on$Name$ NotifieeConst::on$Name$moxImmediate "
-              "NotifieeConst::$name$Pending Tags::$Name$ ::$name$Args",
+              "Tags::$Name$ ::$name$Args",
      .tagTypes = "Owner Child Key Node"},
     {.name = "computed", .blocks = "entity value object", .form = Form::type, .makes = "$name$"},
     {.name = "field",

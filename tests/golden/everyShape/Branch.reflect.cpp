@@ -27,8 +27,8 @@ struct [[gnu::visibility("hidden")]] Branch::GenericIf_::MoxTable {
       {.id = 0, .name = "fwkKey"},
   };
   static Branch* objectOf(GenericIf_ const& face) { return reflect::observed<Branch>(face); }
-  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
-      PtrConst const& value) {
+  static Mox::GenericIf::Ptr performWithoutRow(GenericIf_& face, AttributeOp op,
+      PtrConst const& index, PtrConst const& value) {
     return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
@@ -54,7 +54,7 @@ Mox::Ptr<Branch> Branch::GenericIf_::obj() const { return static_cast<Branch*>(e
 Mox::GenericIf::Ptr Branch::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Branch::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {

@@ -16,8 +16,8 @@ struct [[gnu::visibility("hidden")]] Brook::GenericIf_::MoxTable {
           .read = reflect::read<&Brook::moxHasAttrLogInterface>},
   };
   static Brook* objectOf(GenericIf_ const& face) { return reflect::observed<Brook>(face); }
-  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
-      PtrConst const& value) {
+  static Mox::GenericIf::Ptr performWithoutRow(GenericIf_& face, AttributeOp op,
+      PtrConst const& index, PtrConst const& value) {
     return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
@@ -42,7 +42,7 @@ Mox::Ptr<Brook> Brook::GenericIf_::obj() const { return static_cast<Brook*>(enti
 Mox::GenericIf::Ptr Brook::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Brook::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {

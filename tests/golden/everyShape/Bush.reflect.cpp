@@ -23,15 +23,15 @@ struct [[gnu::visibility("hidden")]] Bush::GenericIf_::MoxTable {
           .read = reflect::read<&Bush::moxHasAttrLogInterface>},
   };
   static Bush* objectOf(GenericIf_ const& face) { return reflect::observed<Bush>(face); }
-  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
-      PtrConst const& value) {
+  static Mox::GenericIf::Ptr performWithoutRow(GenericIf_& face, AttributeOp op,
+      PtrConst const& index, PtrConst const& value) {
     return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
       {259, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 259,
-            own.adapter_->branchesPending)) own.onBranches(*key);
+            own.adapter_->noted.branches)) own.onBranches(*key);
       }},
   };
 };
@@ -53,7 +53,7 @@ Mox::Ptr<Bush> Bush::GenericIf_::obj() const { return static_cast<Bush*>(entity(
 Mox::GenericIf::Ptr Bush::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Bush::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
@@ -83,6 +83,7 @@ void Bush::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
 }
 void Bush::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
   auto const own = Mox::ptrCast<Bush const>(notifier);
+  if (own && own.ptr() != entity()) adapter_->noted = {};
   adapter_->notifierIs(own);
   MoxBase::notifierIs(own);
 }
@@ -103,7 +104,7 @@ void Bush::GenericIf_::moxAdaptersHearIs(bool hears) {
 }
 
 void Bush::GenericIf_::onBranches(U16 key) {
-  reflect::changed(*this, 259, adapter_->branchesPending, key, Mox::Builtin<U16>::_fwkType);
+  reflect::changed(*this, 259, adapter_->noted.branches, key, Mox::Builtin<U16>::_fwkType);
 }
 void Bush::GenericIf_::onBranches() { onAttribute(259); }
 

@@ -61,7 +61,11 @@ class Bush::GenericIf_::GenericIf_Adapter_ : public frame::Adapter<Bush::Notifie
       if (auto* const owner = moxReactorAdapter()) owner->onBranches(key); }
   void onBranches() override { if (auto* const owner = moxReactorAdapter()) owner->onBranches(); }
 
-  reflect::Pending<U16> branchesPending;
+  /// What the next batch tells of each collection.
+  struct Noted {
+    reflect::Pending<U16> branches;
+  };
+  Noted noted;
 };
 
 }  // namespace everyShape

@@ -24,8 +24,8 @@ struct [[gnu::visibility("hidden")]] Derived::GenericIf_::MoxTable {
           .read = reflect::read<&Derived::moxHasAttrLogInterface>},
   };
   static Derived* objectOf(GenericIf_ const& face) { return reflect::observed<Derived>(face); }
-  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
-      PtrConst const& value) {
+  static Mox::GenericIf::Ptr performWithoutRow(GenericIf_& face, AttributeOp op,
+      PtrConst const& index, PtrConst const& value) {
     return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
@@ -33,7 +33,7 @@ struct [[gnu::visibility("hidden")]] Derived::GenericIf_::MoxTable {
       {387, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 387,
-            own.adapter_->marksPending)) own.onMarks(*key);
+            own.adapter_->noted.marks)) own.onMarks(*key);
       }},
   };
 };
@@ -55,7 +55,7 @@ Mox::Ptr<Derived> Derived::GenericIf_::obj() const { return static_cast<Derived*
 Mox::GenericIf::Ptr Derived::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Derived::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
@@ -85,6 +85,7 @@ void Derived::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
 }
 void Derived::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
   auto const own = Mox::ptrCast<Derived const>(notifier);
+  if (own && own.ptr() != entity()) adapter_->noted = {};
   adapter_->notifierIs(own);
   MoxBase::notifierIs(own);
 }
@@ -106,7 +107,7 @@ void Derived::GenericIf_::moxAdaptersHearIs(bool hears) {
 
 void Derived::GenericIf_::onExtra() { reflect::changed(*this, 386); }
 void Derived::GenericIf_::onMarks(U8 key) {
-  reflect::changed(*this, 387, adapter_->marksPending, key, Mox::Builtin<U8>::_fwkType);
+  reflect::changed(*this, 387, adapter_->noted.marks, key, Mox::Builtin<U8>::_fwkType);
 }
 void Derived::GenericIf_::onMarks() { onAttribute(387); }
 

@@ -65,7 +65,11 @@ class Derived::GenericIf_::GenericIf_Adapter_ : public frame::Adapter<Derived::N
       if (auto* const owner = moxReactorAdapter()) owner->onMarks(key); }
   void onMarks() override { if (auto* const owner = moxReactorAdapter()) owner->onMarks(); }
 
-  reflect::Pending<U8> marksPending;
+  /// What the next batch tells of each collection.
+  struct Noted {
+    reflect::Pending<U8> marks;
+  };
+  Noted noted;
 };
 
 }  // namespace everyShape

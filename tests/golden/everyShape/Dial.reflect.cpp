@@ -15,8 +15,8 @@ struct [[gnu::visibility("hidden")]] Dial::GenericIf_::MoxTable {
           .read = reflect::read<&Dial::hash>},
   };
   static Dial* objectOf(GenericIf_ const& face) { return const_cast<Dial*>(&face.value_); }
-  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
-      PtrConst const&) {
+  [[noreturn]] static Mox::GenericIf::Ptr performWithoutRow(GenericIf_&, AttributeOp,
+      PtrConst const&, PtrConst const&) {
     throwUnknownAttrException("Dial");
   }
 };
@@ -36,7 +36,7 @@ Dial::GenericIf_::GenericIf_(Dial const& value, bool isConst) : GenericIf(Dial::
 Mox::GenericIf::Ptr Dial::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Dial::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

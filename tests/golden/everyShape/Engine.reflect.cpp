@@ -21,8 +21,8 @@ struct [[gnu::visibility("hidden")]] Engine::GenericIf_::MoxTable {
       {.id = 0, .name = "moxFwkActivity"},
   };
   static Engine* objectOf(GenericIf_ const& face) { return reflect::observed<Engine>(face); }
-  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
-      PtrConst const&) {
+  [[noreturn]] static Mox::GenericIf::Ptr performWithoutRow(GenericIf_&, AttributeOp,
+      PtrConst const&, PtrConst const&) {
     throwUnknownAttrException("Engine");
   }
 };
@@ -44,7 +44,7 @@ Mox::Ptr<Engine> Engine::GenericIf_::obj() const {
 Mox::GenericIf::Ptr Engine::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Engine::GenericIf_::clone() {
   return reflect::active(new GenericIf_(obj(), isConst()));

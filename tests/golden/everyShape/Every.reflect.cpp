@@ -60,8 +60,8 @@ struct [[gnu::visibility("hidden")]] Every::GenericIf_::MoxTable {
           .read = reflect::read<&Every::moxHasAttrLogInterface>},
   };
   static Every* objectOf(GenericIf_ const& face) { return reflect::observed<Every>(face); }
-  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
-      PtrConst const& value) {
+  static Mox::GenericIf::Ptr performWithoutRow(GenericIf_& face, AttributeOp op,
+      PtrConst const& index, PtrConst const& value) {
     return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
@@ -76,39 +76,39 @@ struct [[gnu::visibility("hidden")]] Every::GenericIf_::MoxTable {
       {267, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 267,
-            own.adapter_->bytesPending)) own.onBytes(*key);
+            own.adapter_->noted.bytes)) own.onBytes(*key);
       }},
       {268, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 268,
-            own.adapter_->wordsPending)) own.onWords(*key);
+            own.adapter_->noted.words)) own.onWords(*key);
       }},
       {269, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 269,
-            own.adapter_->textsPending)) own.onTexts(*key);
+            own.adapter_->noted.texts)) own.onTexts(*key);
       }},
       {270, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onBuddy(); }},
       {271, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 271,
-            own.adapter_->knownPending)) own.onKnown(*key);
+            own.adapter_->noted.known)) own.onKnown(*key);
       }},
       {272, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 272,
-            own.adapter_->seatsPending)) own.onSeats(*key);
+            own.adapter_->noted.seats)) own.onSeats(*key);
       }},
       {273, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onBest(); }},
       {274, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 274,
-            own.adapter_->leavesPending)) own.onLeaves(*key);
+            own.adapter_->noted.leaves)) own.onLeaves(*key);
       }},
       {275, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 275,
-            own.adapter_->lanesPending)) own.onLanes(*key);
+            own.adapter_->noted.lanes)) own.onLanes(*key);
       }},
       {276, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onOdd(); }},
   };
@@ -131,7 +131,7 @@ Mox::Ptr<Every> Every::GenericIf_::obj() const { return static_cast<Every*>(enti
 Mox::GenericIf::Ptr Every::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Every::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
@@ -161,6 +161,7 @@ void Every::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
 }
 void Every::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
   auto const own = Mox::ptrCast<Every const>(notifier);
+  if (own && own.ptr() != entity()) adapter_->noted = {};
   adapter_->notifierIs(own);
   MoxBase::notifierIs(own);
 }
@@ -189,33 +190,33 @@ void Every::GenericIf_::onMood() { reflect::changed(*this, 264); }
 void Every::GenericIf_::onBounded() { reflect::changed(*this, 265); }
 void Every::GenericIf_::onHits() { reflect::changed(*this, 266); }
 void Every::GenericIf_::onBytes(U8 key) {
-  reflect::changed(*this, 267, adapter_->bytesPending, key, Mox::Builtin<U8>::_fwkType);
+  reflect::changed(*this, 267, adapter_->noted.bytes, key, Mox::Builtin<U8>::_fwkType);
 }
 void Every::GenericIf_::onBytes() { onAttribute(267); }
 void Every::GenericIf_::onWords(U32 key) {
-  reflect::changed(*this, 268, adapter_->wordsPending, key, Mox::Builtin<U32>::_fwkType);
+  reflect::changed(*this, 268, adapter_->noted.words, key, Mox::Builtin<U32>::_fwkType);
 }
 void Every::GenericIf_::onWords() { onAttribute(268); }
 void Every::GenericIf_::onTexts(Mox::String8 key) {
-  reflect::changed(*this, 269, adapter_->textsPending, key, Mox::Builtin<Mox::String8>::_fwkType);
+  reflect::changed(*this, 269, adapter_->noted.texts, key, Mox::Builtin<Mox::String8>::_fwkType);
 }
 void Every::GenericIf_::onTexts() { onAttribute(269); }
 void Every::GenericIf_::onBuddy() { reflect::changed(*this, 270); }
 void Every::GenericIf_::onKnown(Mox::Name key) {
-  reflect::changed(*this, 271, adapter_->knownPending, key, Mox::Name::_fwkType);
+  reflect::changed(*this, 271, adapter_->noted.known, key, Mox::Name::_fwkType);
 }
 void Every::GenericIf_::onKnown() { onAttribute(271); }
 void Every::GenericIf_::onSeats(U8 key) {
-  reflect::changed(*this, 272, adapter_->seatsPending, key, Mox::Builtin<U8>::_fwkType);
+  reflect::changed(*this, 272, adapter_->noted.seats, key, Mox::Builtin<U8>::_fwkType);
 }
 void Every::GenericIf_::onSeats() { onAttribute(272); }
 void Every::GenericIf_::onBest() { reflect::changed(*this, 273); }
 void Every::GenericIf_::onLeaves(Mox::Name key) {
-  reflect::changed(*this, 274, adapter_->leavesPending, key, Mox::Name::_fwkType);
+  reflect::changed(*this, 274, adapter_->noted.leaves, key, Mox::Name::_fwkType);
 }
 void Every::GenericIf_::onLeaves() { onAttribute(274); }
 void Every::GenericIf_::onLanes(U8 key) {
-  reflect::changed(*this, 275, adapter_->lanesPending, key, Mox::Builtin<U8>::_fwkType);
+  reflect::changed(*this, 275, adapter_->noted.lanes, key, Mox::Builtin<U8>::_fwkType);
 }
 void Every::GenericIf_::onLanes() { onAttribute(275); }
 void Every::GenericIf_::onOdd() { reflect::changed(*this, 276); }

@@ -136,13 +136,17 @@ class Every::GenericIf_::GenericIf_Adapter_ : public frame::Adapter<Every::Notif
   void onLanes() override { if (auto* const owner = moxReactorAdapter()) owner->onLanes(); }
   void onOdd() override { if (auto* const owner = moxReactorAdapter()) owner->onOdd(); }
 
-  reflect::Pending<U8> bytesPending;
-  reflect::Pending<U32> wordsPending;
-  reflect::Pending<Mox::String8> textsPending;
-  reflect::Pending<Mox::Name> knownPending;
-  reflect::Pending<U8> seatsPending;
-  reflect::Pending<Mox::Name> leavesPending;
-  reflect::Pending<U8> lanesPending;
+  /// What the next batch tells of each collection.
+  struct Noted {
+    reflect::Pending<U8> bytes;
+    reflect::Pending<U32> words;
+    reflect::Pending<Mox::String8> texts;
+    reflect::Pending<Mox::Name> known;
+    reflect::Pending<U8> seats;
+    reflect::Pending<Mox::Name> leaves;
+    reflect::Pending<U8> lanes;
+  };
+  Noted noted;
 };
 
 }  // namespace everyShape

@@ -34,27 +34,27 @@ struct [[gnu::visibility("hidden")]] Grove::GenericIf_::MoxTable {
           .read = reflect::read<&Grove::moxHasAttrLogInterface>},
   };
   static Grove* objectOf(GenericIf_ const& face) { return reflect::observed<Grove>(face); }
-  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
-      PtrConst const& value) {
+  static Mox::GenericIf::Ptr performWithoutRow(GenericIf_& face, AttributeOp op,
+      PtrConst const& index, PtrConst const& value) {
     return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
       {258, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 258,
-            own.adapter_->treePending)) own.onTree(*key);
+            own.adapter_->noted.tree)) own.onTree(*key);
       }},
       {259, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 259,
-            own.adapter_->rowPending)) own.onRow(*key);
+            own.adapter_->noted.row)) own.onRow(*key);
       }},
       {262, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onBrook(); }},
       {263, false, [](Mox::GenericIfEntity& face) { static_cast<GenericIf_&>(face).onLevel(); }},
       {264, true, [](Mox::GenericIfEntity& face) {
         auto& own = static_cast<GenericIf_&>(face);
         if (auto const* const key = reflect::onlyKey(own, 264,
-            own.adapter_->byLevelPending)) own.onByLevel(*key);
+            own.adapter_->noted.byLevel)) own.onByLevel(*key);
       }},
   };
 };
@@ -79,7 +79,7 @@ Mox::Ptr<Grove> Grove::GenericIf_::obj() const { return static_cast<Grove*>(enti
 Mox::GenericIf::Ptr Grove::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Grove::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {
@@ -105,6 +105,7 @@ void Grove::GenericIf_::handleNotification(Mox::ActivityConfig* activity) {
 }
 void Grove::GenericIf_::notifierIs(Mox::Ptr<Mox::PtrInterface const> const& notifier) {
   auto const own = Mox::ptrCast<Grove const>(notifier);
+  if (own && own.ptr() != entity()) adapter_->noted = {};
   adapter_->notifierIs(own);
   MoxBase::notifierIs(own);
 }
@@ -125,17 +126,17 @@ void Grove::GenericIf_::moxAdaptersHearIs(bool hears) {
 }
 
 void Grove::GenericIf_::onTree(Mox::Name key) {
-  reflect::changed(*this, 258, adapter_->treePending, key, Mox::Name::_fwkType);
+  reflect::changed(*this, 258, adapter_->noted.tree, key, Mox::Name::_fwkType);
 }
 void Grove::GenericIf_::onTree() { onAttribute(258); }
 void Grove::GenericIf_::onRow(U8 key) {
-  reflect::changed(*this, 259, adapter_->rowPending, key, Mox::Builtin<U8>::_fwkType);
+  reflect::changed(*this, 259, adapter_->noted.row, key, Mox::Builtin<U8>::_fwkType);
 }
 void Grove::GenericIf_::onRow() { onAttribute(259); }
 void Grove::GenericIf_::onBrook() { reflect::changed(*this, 262); }
 void Grove::GenericIf_::onLevel() { reflect::changed(*this, 263); }
 void Grove::GenericIf_::onByLevel(Level key) {
-  reflect::changed(*this, 264, adapter_->byLevelPending, key, Level::_fwkType);
+  reflect::changed(*this, 264, adapter_->noted.byLevel, key, Level::_fwkType);
 }
 void Grove::GenericIf_::onByLevel() { onAttribute(264); }
 

@@ -80,9 +80,13 @@ class Grove::GenericIf_::GenericIf_Adapter_ : public frame::Adapter<Grove::Notif
       if (auto* const owner = moxReactorAdapter()) owner->onByLevel(key); }
   void onByLevel() override { if (auto* const owner = moxReactorAdapter()) owner->onByLevel(); }
 
-  reflect::Pending<Mox::Name> treePending;
-  reflect::Pending<U8> rowPending;
-  reflect::Pending<Level> byLevelPending;
+  /// What the next batch tells of each collection.
+  struct Noted {
+    reflect::Pending<Mox::Name> tree;
+    reflect::Pending<U8> row;
+    reflect::Pending<Level> byLevel;
+  };
+  Noted noted;
 };
 
 }  // namespace everyShape

@@ -17,8 +17,8 @@ struct [[gnu::visibility("hidden")]] Heap::GenericIf_::MoxTable {
           .read = reflect::read<&Heap::hash>},
   };
   static Heap* objectOf(GenericIf_ const& face) { return const_cast<Heap*>(&face.value_); }
-  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
-      PtrConst const&) {
+  [[noreturn]] static Mox::GenericIf::Ptr performWithoutRow(GenericIf_&, AttributeOp,
+      PtrConst const&, PtrConst const&) {
     throwUnknownAttrException("Heap");
   }
 };
@@ -38,7 +38,7 @@ Heap::GenericIf_::GenericIf_(Heap const& value, bool isConst) : GenericIf(Heap::
 Mox::GenericIf::Ptr Heap::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Heap::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {

@@ -15,8 +15,8 @@ struct [[gnu::visibility("hidden")]] Hue::GenericIf_::MoxTable {
           .read = reflect::read<&Hue::hash>},
   };
   static Hue* objectOf(GenericIf_ const& face) { return const_cast<Hue*>(&face.value_); }
-  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
-      PtrConst const&) {
+  [[noreturn]] static Mox::GenericIf::Ptr performWithoutRow(GenericIf_&, AttributeOp,
+      PtrConst const&, PtrConst const&) {
     throwUnknownAttrException("Hue");
   }
 };
@@ -36,7 +36,7 @@ Hue::GenericIf_::GenericIf_(Hue const& value, bool isConst) : GenericIf(Hue::_fw
 Mox::GenericIf::Ptr Hue::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Hue::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

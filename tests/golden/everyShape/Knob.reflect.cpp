@@ -16,8 +16,8 @@ struct [[gnu::visibility("hidden")]] Knob::GenericIf_::MoxTable {
           .read = reflect::read<&Knob::hash>},
   };
   static Knob* objectOf(GenericIf_ const& face) { return const_cast<Knob*>(&face.value_); }
-  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
-      PtrConst const&) {
+  [[noreturn]] static Mox::GenericIf::Ptr performWithoutRow(GenericIf_&, AttributeOp,
+      PtrConst const&, PtrConst const&) {
     throwUnknownAttrException("Knob");
   }
 };
@@ -37,7 +37,7 @@ Knob::GenericIf_::GenericIf_(Knob const& value, bool isConst) : GenericIf(Knob::
 Mox::GenericIf::Ptr Knob::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Knob::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

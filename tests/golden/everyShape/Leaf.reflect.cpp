@@ -25,8 +25,8 @@ struct [[gnu::visibility("hidden")]] Leaf::GenericIf_::MoxTable {
       {.id = 0, .name = "fwkKey"},
   };
   static Leaf* objectOf(GenericIf_ const& face) { return reflect::observed<Leaf>(face); }
-  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
-      PtrConst const& value) {
+  static Mox::GenericIf::Ptr performWithoutRow(GenericIf_& face, AttributeOp op,
+      PtrConst const& index, PtrConst const& value) {
     return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
@@ -51,7 +51,7 @@ Mox::Ptr<Leaf> Leaf::GenericIf_::obj() const { return static_cast<Leaf*>(entity(
 Mox::GenericIf::Ptr Leaf::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Leaf::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {

@@ -15,8 +15,8 @@ struct [[gnu::visibility("hidden")]] Level::GenericIf_::MoxTable {
           .read = reflect::read<&Level::hash>},
   };
   static Level* objectOf(GenericIf_ const& face) { return const_cast<Level*>(&face.value_); }
-  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
-      PtrConst const&) {
+  [[noreturn]] static Mox::GenericIf::Ptr performWithoutRow(GenericIf_&, AttributeOp,
+      PtrConst const&, PtrConst const&) {
     throwUnknownAttrException("Level");
   }
 };
@@ -36,7 +36,7 @@ Level::GenericIf_::GenericIf_(Level const& value, bool isConst) : GenericIf(Leve
 Mox::GenericIf::Ptr Level::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Level::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

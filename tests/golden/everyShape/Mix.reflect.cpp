@@ -26,8 +26,8 @@ struct [[gnu::visibility("hidden")]] Mix::GenericIf_::MoxTable {
           .read = reflect::read<&Mix::hash>},
   };
   static Mix* objectOf(GenericIf_ const& face) { return const_cast<Mix*>(&face.value_); }
-  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
-      PtrConst const&) {
+  [[noreturn]] static Mox::GenericIf::Ptr performWithoutRow(GenericIf_&, AttributeOp,
+      PtrConst const&, PtrConst const&) {
     throwUnknownAttrException("Mix");
   }
 };
@@ -47,7 +47,7 @@ Mix::GenericIf_::GenericIf_(Mix const& value, bool isConst) : GenericIf(Mix::_fw
 Mox::GenericIf::Ptr Mix::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Mix::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

@@ -13,8 +13,8 @@ struct [[gnu::visibility("hidden")]] Shade::GenericIf_::MoxTable {
           .read = reflect::read<&Shade::value>, .write = reflect::construct<Shade, U16>},
   };
   static Shade* objectOf(GenericIf_ const& face) { return const_cast<Shade*>(&face.value_); }
-  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
-      PtrConst const& value) {
+  static Mox::GenericIf::Ptr performWithoutRow(GenericIf_& face, AttributeOp op,
+      PtrConst const& index, PtrConst const& value) {
     return reflect::performInBase(face, static_cast<Hue const*>(&face.value_), op, index, value);
   }
 };
@@ -34,7 +34,7 @@ Shade::GenericIf_::GenericIf_(Shade const& value, bool isConst) : GenericIf(Shad
 Mox::GenericIf::Ptr Shade::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::Ptr Shade::GenericIf_::clone() {
   return reflect::active(new GenericIf_(value_, isConst()));

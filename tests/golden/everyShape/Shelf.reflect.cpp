@@ -20,8 +20,8 @@ struct [[gnu::visibility("hidden")]] Shelf::GenericIf_::MoxTable {
           .collection = &reflect::collection<Shelf::Tags::Labels>},
   };
   static Shelf* objectOf(GenericIf_ const& face) { return reflect::observed<Shelf>(face); }
-  [[noreturn]] static Mox::GenericIf::Ptr performUnknown(GenericIf_&, AttributeOp, PtrConst const&,
-      PtrConst const&) {
+  [[noreturn]] static Mox::GenericIf::Ptr performWithoutRow(GenericIf_&, AttributeOp,
+      PtrConst const&, PtrConst const&) {
     throwUnknownAttrException("Shelf");
   }
 };
@@ -43,7 +43,7 @@ Mox::Ptr<Shelf> Shelf::GenericIf_::obj() const {
 Mox::GenericIf::Ptr Shelf::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Shelf::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {

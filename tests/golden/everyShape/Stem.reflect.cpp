@@ -26,8 +26,8 @@ struct [[gnu::visibility("hidden")]] Stem::GenericIf_::MoxTable {
       {.id = 0, .name = "fwkKey"},
   };
   static Stem* objectOf(GenericIf_ const& face) { return reflect::observed<Stem>(face); }
-  static Mox::GenericIf::Ptr performUnknown(GenericIf_& face, AttributeOp op, PtrConst const& index,
-      PtrConst const& value) {
+  static Mox::GenericIf::Ptr performWithoutRow(GenericIf_& face, AttributeOp op,
+      PtrConst const& index, PtrConst const& value) {
     return face.MoxBase::attributeOp(op, index, value);
   }
   static constexpr reflect::Told told[] = {
@@ -54,7 +54,7 @@ Mox::Ptr<Stem> Stem::GenericIf_::obj() const { return static_cast<Stem*>(entity(
 Mox::GenericIf::Ptr Stem::GenericIf_::attributeOp(AttributeOp op, PtrConst const& index,
     PtrConst const& value) {
   requireWritable(op);
-  return reflect::performBy<MoxTable>(*this, op, index, value);
+  return reflect::performByTable<MoxTable>(*this, op, index, value);
 }
 Mox::GenericIf::AttributeIteratorConst Stem::GenericIf_::attributeIteratorConst(
     Mox::AttributeId id) const {

@@ -97,7 +97,7 @@ GenericIf::Ptr call(Paths const& paths, Place const& place, MoxAttr const& opera
   if (place.kind == Place::Kind::root && place.root->refuse)
     place.root->refuse(operation, arguments);
   return askedAt(path, [&] {
-    return place.face->attributeOp({operation.id(), GenericIf::opWrite}, nullptr,
+    return place.face->attributeOp({operation.id(), GenericIf::opWrite}, GenericIf::notGiven,
                                    handedOver(arguments));
   });
 }
