@@ -74,14 +74,15 @@ MoxAttr const* MoxType::attributeById(AttributeId id) const noexcept {
   return entry ? entry->value().ptr() : nullptr;
 }
 
-MoxAttr const* MoxType::attributeByName(String8 const& name) const {
+// Flattened: by name is how tools ask, and a call of the search costs as much as half of it.
+[[gnu::flatten]] MoxAttr const* MoxType::attributeByName(String8 const& name) const {
   if (byName_.empty()) [[unlikely]]
     indexNames();
   auto const* const node = byName_.find(name);
   return node ? node->value() : nullptr;
 }
 
-void MoxType::indexNames() const {
+[[gnu::noinline]] void MoxType::indexNames() const {
   for (auto const& entry : queue_) {
     String8 const& name = entry.value()->moxName().stringValue();
     if (!byName_.isMember(name))
