@@ -45,12 +45,14 @@ TEST(DeliverTest, HookThatThrowsIsReportedToItsOwnObserverAndTheOthersHear) {
   EXPECT_EQ(stage.entity->level(), 1u);
 }
 
+/// Raises in its hook, and in the report of that.
+class Hopeless : public PlainListener {
+ public:
+  void onLevel() override { throw 1; }
+  void onNotificationException(Mox::AttributeId) override { throw 2; }
+};
+
 TEST(DeliverTest, ExceptionOutOfTheReportEndsTheDeliveryAndKeepsTheValue) {
-  class Hopeless : public PlainListener {
-   public:
-    void onLevel() override { throw 1; }
-    void onNotificationException(Mox::AttributeId) override { throw 2; }
-  };
   Stage stage;
   Mox::Ptr<Hopeless> const hopeless = new Hopeless;
   watch(hopeless, stage.entity);
@@ -63,11 +65,6 @@ TEST(DeliverTest, ExceptionOutOfTheReportEndsTheDeliveryAndKeepsTheValue) {
 }
 
 TEST(DeliverTest, ExceptionOutOfTheReportInTheMiddleLetsGoOfEachMemberOnce) {
-  class Hopeless : public PlainListener {
-   public:
-    void onLevel() override { throw 1; }
-    void onNotificationException(Mox::AttributeId) override { throw 2; }
-  };
   Stage stage;
   stage.join("a");
   Mox::Ptr<Hopeless> const hopeless = new Hopeless;
