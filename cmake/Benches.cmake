@@ -51,6 +51,11 @@ foreach(source IN LISTS sources)
     LINK benchmark::benchmark peers BenchFloor engines KestrelTypes)
 endforeach()
 
+# Its loops are a few instructions: the one that happens to lie across lines of the instruction
+# cache takes a fifth longer, ours as theirs.
+target_compile_options(bench_Maps PRIVATE
+  $<$<CXX_COMPILER_ID:GNU>:-falign-loops=32 -falign-jumps=32>)
+
 # It loads the libraries itself, so it isn't linked with them.
 kestrel_program(bench_Load SOURCES "${PROJECT_SOURCE_DIR}/bench/load/Load.cpp"
   LINK benchmark::benchmark ${CMAKE_DL_LIBS})

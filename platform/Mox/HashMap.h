@@ -29,38 +29,39 @@ class HashMapIteratorGeneric {
   }
 
  protected:
-  explicit HashMapIteratorGeneric(HashMapGeneric const& map) : map_(&map), changes_(map.changes()) {
-    seek([&map](int* bucket) { return map.findNextBucket(bucket); });
+  explicit HashMapIteratorGeneric(HashMapGeneric const& map)
+      : map_(&map), stamp_(map.stamp()), walk_(map.walkFrom()) {
+    PtrInterface* const first = walk_.head();
+    node_ = first ? first : walk_.nextHead();
   }
-  HashMapIteratorGeneric(HashMapGeneric const& map, void const* key, U32 hash)
-      : map_(&map), changes_(map.changes()) {
-    seek([&map, key, hash](int* bucket) { return map.startAtHash(key, hash, bucket); });
+  HashMapIteratorGeneric(HashMapGeneric const& map, void const* key, U32 hash) : map_(&map) {
+    settle(map.standAtHash(key, hash));
   }
 
   // Steps on from the node, whose link holds `linked`: which tells something only in a map that
-  // hasn't changed.
-  void stepFrom(PtrInterface* linked) {
-    if (map_->changes() != changes_) [[unlikely]] {
-      changes_ = map_->changes();
-      seek([this](int* bucket) { return map_->findNextG(node_.ptr(), bucket); });
-    } else if (linked) {
-      node_.ptrAssign(linked);
-    } else {
-      seek([this](int* bucket) { return map_->findNextBucket(bucket); });
+  // hasn't changed.  How it is written decides whether the loop around it keeps the walk in
+  // registers, and the common way in a row (bench_Maps, iterate).
+  [[gnu::always_inline]] void stepFrom(PtrInterface* linked) {
+    if (map_->changes() != stamp_) [[unlikely]] {
+      if (map_->stamp() != stamp_)
+        settle(map_->standBehind(node_.ptr()));
+      else
+        node_.ptrAssign(linked ? linked : walk_.nextHead());
+      return;
     }
+    if (!linked) [[likely]]
+      linked = walk_.nextHead();
+    node_.ptrAssignPlain(linked);  // an unchanged map still holds the node
   }
-  // The engine gets the bucket in a copy: an iterator whose parts nobody points at can be kept in
-  // registers.
-  template <class Find>
-  void seek(Find const& find) {
-    int bucket = bucket_;
-    node_.ptrAssign(find(&bucket));
-    bucket_ = bucket;
+  void settle(HashMapGeneric::Stand const& stand) {
+    stamp_ = map_->stamp();
+    walk_ = stand.walk;
+    node_.ptrAssign(stand.node);
   }
 
   HashMapGeneric const* map_ = nullptr;
-  int bucket_ = -1;
-  U32 changes_ = 0;
+  U32 stamp_ = 0;
+  BucketWalk walk_;
   Ptr<PtrInterface> node_;
 };
 
@@ -179,12 +180,15 @@ class HashMap : public HashMapGeneric {
     using difference_type = std::ptrdiff_t;
 
     RawIterator() = default;
-    explicit RawIterator(HashMap const& map) : map_(&map) { settle(map.head(0)); }
+    explicit RawIterator(HashMap const& map) : walk_(map.walkFrom()), node_(walk_.head()) {
+      if (!node_) node_ = walk_.nextHead();
+    }
 
     Node& operator*() const noexcept { return *typed(node_); }
     Node* operator->() const noexcept { return typed(node_); }
     RawIterator& operator++() noexcept {
-      settle(nextOf(node_));
+      PtrInterface* const linked = nextOf(node_);
+      node_ = linked ? linked : walk_.nextHead();
       return *this;
     }
     RawIterator operator++(int) noexcept {
@@ -196,14 +200,7 @@ class HashMap : public HashMapGeneric {
     bool operator==(std::default_sentinel_t) const noexcept { return node_ == nullptr; }
 
    private:
-    // Stands on `at`, or where that is null on the head of the next bucket that has one.
-    void settle(PtrInterface* at) noexcept {
-      while (!at && map_->stepBucket(bucket_)) at = map_->head(bucket_);
-      node_ = at;
-    }
-
-    HashMap const* map_ = nullptr;
-    U32 bucket_ = 0;
+    BucketWalk walk_;
     PtrInterface* node_ = nullptr;
   };
   RawIterator begin() const { return RawIterator(*this); }
@@ -219,14 +216,15 @@ class HashMap : public HashMapGeneric {
     // none.
     U32 const half = bucketCount() / 2;
     U32 const quarter = half / 2;
-    U32 bucket = 0;
+    BucketWalk walk(buckets_, log2Buckets_ < 2 ? 0 : log2Buckets_ - 2);
     do {
+      U32 const bucket = walk.bucket();
       visitChain(head(bucket));
       if (half != 0) visitChain(head(bucket | half));
       if (quarter == 0) continue;
       visitChain(head(bucket | quarter));
       visitChain(head(bucket | half | quarter));
-    } while (stepBucket(bucket, quarter));
+    } while (walk.step());
   }
 
   /// The first node in the order of the walk, uncounted; null in an empty map.

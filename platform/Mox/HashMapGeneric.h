@@ -7,6 +7,47 @@
 
 namespace Mox {
 
+/// A position among the buckets of a map, which steps in the order of the walk.  It is good as long
+/// as the map has the buckets that it had.
+class BucketWalk {
+ public:
+  using Link = Ptr<PtrInterface>;
+
+  BucketWalk() = default;
+  /// On `bucket` of two to the power of `log2` buckets.
+  BucketWalk(Link const* buckets, U32 log2, U32 bucket = 0) noexcept
+      : buckets_(buckets), step_((0x80000000 >> log2) << 1), place_(bitReverse(bucket)) {}
+
+  /// The bucket, as it is stored.
+  U32 bucket() const noexcept {
+    if (place_ & 0xFFFFFF) [[unlikely]]
+      return bitReverse(place_);
+    return reversedBytes[place_ >> 24];
+  }
+  /// Its first node; null where it is empty.
+  PtrInterface* head() const noexcept { return buckets_[bucket()].ptr(); }
+  /// Steps to the next bucket; false behind the last one.
+  bool step() noexcept { return (place_ += step_) != 0; }
+  /// Steps to the next bucket that isn't empty, and returns its first node; null behind the last
+  /// one.
+  [[gnu::always_inline]] PtrInterface* nextHead() noexcept {
+    PtrInterface* found;
+    do {
+      if (!step()) [[unlikely]]
+        return nullptr;
+      found = head();
+    } while (__builtin_expect(!found, 0));
+    return found;
+  }
+
+ private:
+  Link const* buckets_ = nullptr;
+  // What the walk counts up is the bucket's number with its bits reversed: its carry runs out of
+  // the word behind the last bucket.
+  U32 step_ = 0;
+  U32 place_ = 0;
+};
+
 /// Chains of counted nodes in a power of two of buckets.
 ///
 /// The order of a walk is behaviour: buckets in ascending order of the top bits of the bit-reversed
@@ -23,6 +64,9 @@ class HashMapGeneric {
 
   /// Insertions and removals so far, modulo 2^32.
   U32 changes() const noexcept { return changes_; }
+  /// What a walk keeps to see whether it may go on by links alone: it equals `changes()` until the
+  /// map changes, and never does while counts are atomic.
+  U32 stamp() const noexcept { return changes_ ^ (U32{ReferenceWord::threadSafe} << 31); }
   /// Elements.
   U32 count() const noexcept { return count_; }
   bool empty() const noexcept { return count_ == 0; }
@@ -41,23 +85,19 @@ class HashMapGeneric {
   /// meanwhile.  The first one for null; null at the end.
   PtrInterface* findNextG(PtrInterface const* node, int* bucket) const;
   /// The head of the next bucket that isn't empty, and that bucket; null at the end.
-  PtrInterface* findNextBucket(int* bucket) const noexcept {
-    if (*bucket < 0) [[unlikely]] {
-      *bucket = 0;
-      if (PtrInterface* const first = head(0)) return first;
-    }
-    auto at = static_cast<U32>(*bucket);
-    while (stepBucket(at)) {
-      if (PtrInterface* const found = head(at)) {
-        *bucket = static_cast<int>(at);
-        return found;
-      }
-    }
-    return nullptr;
-  }
+  PtrInterface* findNextBucket(int* bucket) const noexcept;
   /// The first node at or behind the place of `key`, whose bit-reversed hash is `hash`, and its
   /// bucket; null at the end.
   PtrInterface* startAtHash(void const* key, U32 hash, int* bucket) const;
+
+  /// A node, null at the end, and a walk on its bucket.
+  struct Stand {
+    PtrInterface* node;
+    BucketWalk walk;
+  };
+  /// What `findNextG` and `startAtHash` find.
+  Stand standBehind(PtrInterface const* node) const;
+  Stand standAtHash(void const* key, U32 hash) const;
 
   /// Makes the bucket count `buckets`, rounded up to a power of two.  The map must be empty.
   void setSize0(U32 buckets);
@@ -66,12 +106,11 @@ class HashMapGeneric {
   PtrInterface* next(PtrInterface const* node) const noexcept { return linkOf(node).ptr(); }
   /// The head of a bucket.
   PtrInterface* head(U32 bucket) const noexcept { return buckets_[bucket].ptr(); }
-  /// Steps to the bucket that follows in the order of the walk, which starts at 0; false behind the
-  /// last one.
-  bool stepBucket(U32& bucket) const noexcept { return stepBucket(bucket, bucketCount()); }
+  /// A walk over the buckets that starts on one, as it is stored; on the first if it isn't told.
+  BucketWalk walkFrom(U32 bucket = 0) const noexcept { return {buckets_, log2Buckets_, bucket}; }
 
  protected:
-  using Link = Ptr<PtrInterface>;
+  using Link = BucketWalk::Link;
 
   /// An empty map of `size` buckets, rounded up to a power of two.  The typed face sets the rest.
   explicit HashMapGeneric(U32 size);
@@ -83,24 +122,16 @@ class HashMapGeneric {
   /// walk: it matters where keys aren't ordered among each other.
   template <class Enter>
   void grow(Enter const& enter) {
-    U32 const oldCount = bucketCount();
+    BucketWalk walk = walkFrom();
     Link* const old = doubledBuckets();
-    U32 bucket = 0;
     do {
-      for (Link at = std::move(old[bucket]); at;) {
+      for (Link at = std::move(old[walk.bucket()]); at;) {
         Link rest = std::move(linkOf(at.ptr()));
         enter(std::move(at));
         at = std::move(rest);
       }
-    } while (stepBucket(bucket, oldCount));
+    } while (walk.step());
     freeBuckets(old, log2Buckets_ - 1u);
-  }
-  // An increment whose carry runs downwards from the top bit.
-  static bool stepBucket(U32& bucket, U32 count) noexcept {
-    U32 bit = count >> 1;
-    for (; bucket & bit; bit >>= 1) bucket ^= bit;
-    bucket |= bit;
-    return bit != 0;
   }
   /// Puts a node into a chain, into the link that reached the node behind it.
   void linkIn(Link& place, Link&& node, Link& nodeLink) noexcept {

@@ -44,6 +44,15 @@ class Ptr {
     drop(old);
   }
 
+  /// The same while counts are plain, for an old object that something else holds too: neither the
+  /// switch nor the last reference is asked about.  There must be an old one.
+  void ptrAssignPlain(T* object) noexcept {
+    object_->referencesDecPlain();
+    object_ = object;
+    if (object) [[likely]]
+      object->referencesIncPlain();
+  }
+
   T* ptr() const noexcept { return object_; }
   T* operator->() const noexcept { return object_; }
   T& operator*() const noexcept { return *object_; }

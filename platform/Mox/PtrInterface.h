@@ -14,6 +14,7 @@ class MoxType;
 class VFPtrInterface {
  public:
   /// The process-wide switch: while set, counts of objects and of string data change atomically.
+  /// Set it before the second thread starts, and while no walk of a map is under way.
   static constexpr bool& enableThreadSafePointers = ReferenceWord::threadSafe;
 
   [[gnu::always_inline]] void referencesInc() const noexcept { referenceWord_.inc(); }
@@ -66,6 +67,9 @@ class PtrInterface : public VFPtrInterface {
   }
   /// The same, but for the last: true, and `handleZeroRef` is the caller's to call.
   [[gnu::always_inline]] bool referencesDecIsLast() const noexcept { return referenceWord_.dec(); }
+  /// The same two while counts are plain; the reference mustn't be the last.
+  void referencesIncPlain() const noexcept { referenceWord_.incPlain(); }
+  void referencesDecPlain() const noexcept { referenceWord_.decPlain(); }
   /// Tells the object by `zeroReferencesIs`, and deletes it unless something holds it again.
   void handleZeroRef() const;
 

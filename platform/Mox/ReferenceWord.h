@@ -23,7 +23,7 @@ class ReferenceWord {
   static constexpr U32 releaseMask = 0x5FFFFFFF;
 
   /// While set, every word of the process is changed by atomic read-modify-writes; while clear, by
-  /// plain ones.  Set it before the second thread starts.
+  /// plain ones.  Set it before the second thread starts, and while no walk of a map is under way.
   static bool threadSafe;
 
   constexpr explicit ReferenceWord(U32 word = 0) : word_(word) {}
@@ -55,6 +55,10 @@ class ReferenceWord {
       left = --word_;
     return (left & releaseMask) == 0;
   }
+
+  // For who knows that `threadSafe` is clear, and that the reference isn't the last one.
+  void incPlain() noexcept { ++word_; }
+  void decPlain() noexcept { --word_; }
 
   void flagIs(U32 flag, bool on) noexcept {
     if (threadSafe) [[unlikely]] {

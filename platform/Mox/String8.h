@@ -4,6 +4,7 @@
 #include "Mox/Integers.h"
 #include "Mox/ReferenceWord.h"
 
+#include <array>
 #include <compare>
 #include <iosfwd>
 #include <string_view>
@@ -178,6 +179,13 @@ constexpr U32 bitReverse(U32 word) noexcept {
   word = ((word & 0xCCCCCCCC) >> 2) | ((word & 0x33333333) << 2);
   return ((word & 0xAAAAAAAA) >> 1) | ((word & 0x55555555) << 1);
 }
+
+/// The same of each byte.
+inline constexpr std::array<U8, 256> reversedBytes = [] {
+  std::array<U8, 256> reversed{};
+  for (U32 byte = 0; byte < 256; ++byte) reversed[byte] = static_cast<U8>(bitReverse(byte) >> 24);
+  return reversed;
+}();
 
 /// Formats by all of printf's rules.  Throws `InternalException` "can't format by <pattern>" where
 /// printf itself fails.

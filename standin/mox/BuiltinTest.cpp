@@ -3,6 +3,7 @@
 #include "Mox/BoundedIntegers.h"
 #include "Mox/Builtin.h"
 #include "Mox/Exception.h"
+#include "standin/mox/TestThreadSafe.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -140,10 +141,9 @@ TYPED_TEST(PrimitiveTest, WhatIsHeldNeverChangesUnderItsHolder) {
 
 TYPED_TEST(PrimitiveTest, NoSpareIsHandedOutWhileCountsAreSafeForThreads) {
   auto const former = primitiveIf(first<TypeParam>(), true).ptr();  // kept as the spare one
-  Mox::VFPtrInterface::enableThreadSafePointers = true;
+  Mox::ThreadSafe const threadSafe;
   auto const value = primitiveIf(last<TypeParam>(), false);
   auto const other = primitiveIf(first<TypeParam>(), true);
-  Mox::VFPtrInterface::enableThreadSafePointers = false;
   EXPECT_NE(value.ptr(), former);
   EXPECT_NE(value, other);
   EXPECT_EQ(primitiveIn<TypeParam>(value), last<TypeParam>());

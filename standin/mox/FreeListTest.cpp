@@ -1,6 +1,7 @@
 // The free lists: what they keep, and that blocks may cross the thread-safety switch.
 #include "Mox/MapNode.h"
 #include "standin/mox/FreeList.h"
+#include "standin/mox/TestThreadSafe.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -20,12 +21,6 @@ constexpr bool keeps = true;
 
 // A size that nothing else in this program uses.
 constexpr std::size_t size = 232;
-
-class ThreadSafe {
- public:
-  ThreadSafe() { VFPtrInterface::enableThreadSafePointers = true; }
-  ~ThreadSafe() { VFPtrInterface::enableThreadSafePointers = false; }
-};
 
 TEST(FreeListTest, BlockComesBack) {
   void* const block = FreeList::take(size);

@@ -79,6 +79,17 @@ void HashMapGeneric::emptyAllBuckets() {
     while (PtrInterface* const node = head(bucket)) takeFrom(buckets_[bucket], linkOf(node));
 }
 
+PtrInterface* HashMapGeneric::findNextBucket(int* bucket) const noexcept {
+  if (*bucket < 0) {
+    *bucket = 0;
+    if (PtrInterface* const first = head(0)) return first;
+  }
+  BucketWalk walk = walkFrom(static_cast<U32>(*bucket));
+  PtrInterface* const found = walk.nextHead();
+  if (found) *bucket = static_cast<int>(walk.bucket());
+  return found;
+}
+
 PtrInterface* HashMapGeneric::findNextG(PtrInterface const* node, int* bucket) const {
   if (!node) {
     *bucket = -1;
@@ -100,6 +111,18 @@ PtrInterface* HashMapGeneric::startAtHash(void const* key, U32 hash, int* bucket
   for (PtrInterface* at = head(static_cast<U32>(*bucket)); at; at = next(at))
     if (keys_->keyEquals(key, at) || keys_->keyLessThan(key, at, nullptr)) return at;
   return findNextBucket(bucket);
+}
+
+HashMapGeneric::Stand HashMapGeneric::standBehind(PtrInterface const* node) const {
+  int bucket = -1;
+  PtrInterface* const found = findNextG(node, &bucket);
+  return {found, walkFrom(static_cast<U32>(bucket))};
+}
+
+HashMapGeneric::Stand HashMapGeneric::standAtHash(void const* key, U32 hash) const {
+  int bucket = -1;
+  PtrInterface* const found = startAtHash(key, hash, &bucket);
+  return {found, walkFrom(static_cast<U32>(bucket))};
 }
 
 }  // namespace Mox

@@ -1,5 +1,6 @@
 // Random changes of a hash map beside a plain model of it.
 #include "standin/mox/TestMaps.h"
+#include "standin/mox/TestThreadSafe.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -63,7 +64,15 @@ TEST(HashMapModelTest, RandomChangesKeepTheOrder) {
   }
 }
 
-TEST(HashMapModelTest, RandomChangesInMidWalkAreSeenAsTold) {
+// The walk by links is one of plain counts; that of atomic ones must see the same.
+class WalkModelTest : public testing::TestWithParam<bool> {
+  ThreadSafe const threadSafe_{GetParam()};
+};
+
+INSTANTIATE_TEST_SUITE_P(Counts, WalkModelTest, testing::Bool(),
+                         [](auto const& test) { return test.param ? "atomic" : "plain"; });
+
+TEST_P(WalkModelTest, RandomChangesInMidWalkAreSeenAsTold) {
   std::mt19937 random(11);
   Map map(4);
   Model model;
@@ -77,6 +86,36 @@ TEST(HashMapModelTest, RandomChangesInMidWalkAreSeenAsTold) {
       ASSERT_EQ(at ? S64{at.key()} : -1, next);
       ASSERT_EQ(map.count(), model.size());
     }
+  }
+}
+
+TEST_P(WalkModelTest, HoldsTheCurrentNodeAlone) {
+  Map map(4);
+  add(map, {1, 2, 3, 4, 5, 6, 12});
+  std::vector<Node*> nodes;
+  for (Node& node : map) nodes.push_back(&node);
+  auto at = map.iterator();
+  for (Node const* const node : nodes) {
+    ASSERT_EQ(at.node(), node);
+    for (Node const* const other : nodes) ASSERT_EQ(other->references(), other == node ? 2u : 1u);
+    ++at;
+  }
+  EXPECT_FALSE(at);
+  EXPECT_EQ(nodes.back()->references(), 1u);
+}
+
+// A bucket's number of more than eight bits is reversed by another way than a short one.
+TEST_P(WalkModelTest, WalksOfManyBucketsAgree) {
+  for (U32 const size : {255u, 256u, 257u, 512u, 1000u, 5000u}) {
+    Map map(4);
+    Model model;
+    for (U32 key = 0; key < size; ++key) change(map, model, key * 3);
+    std::string const expected = model.order();
+    EXPECT_EQ(order(map), expected) << size;
+    EXPECT_EQ(rest(map.iterator()), expected) << size;
+    std::vector<U32> visited;
+    map.forEachNode([&visited](Node const& node) { visited.push_back(node.key()); });
+    EXPECT_EQ(list(visited), expected) << size;
   }
 }
 

@@ -1,5 +1,6 @@
 // Counted objects: when they go, and what keeps them.
 #include "Mox/PtrInterface.h"
+#include "standin/mox/TestThreadSafe.h"
 
 #include <gtest/gtest.h>
 #include <thread>
@@ -92,6 +93,21 @@ TEST(PtrInterfaceTest, SelfAssignmentKeepsTheObject) {
   EXPECT_EQ(gone, 0);
 }
 
+TEST(PtrInterfaceTest, PlainAssignmentMovesOneReference) {
+  int gone = 0;
+  Ptr<Probe> const first = new Probe(&gone);
+  Ptr<Probe> const second = new Probe(&gone);
+  Ptr<Probe> holder = first;
+  holder.ptrAssignPlain(second.ptr());
+  EXPECT_EQ(holder, second);
+  EXPECT_EQ(first->references(), 1u);
+  EXPECT_EQ(second->references(), 2u);
+  holder.ptrAssignPlain(nullptr);
+  EXPECT_EQ(holder, nullptr);
+  EXPECT_EQ(second->references(), 1u);
+  EXPECT_EQ(gone, 0);
+}
+
 TEST(PtrInterfaceTest, DestructorMayTakeAndDropReferencesToTheObject) {
   struct Looker : PtrInterface {
     explicit Looker(int* count) : gone(count) {}
@@ -109,14 +125,13 @@ TEST(PtrInterfaceTest, DestructorMayTakeAndDropReferencesToTheObject) {
 TEST(PtrInterfaceTest, AtomicCountsSurviveTwoThreads) {
   int gone = 0;
   Ptr<Probe> probe = new Probe(&gone);
-  VFPtrInterface::enableThreadSafePointers = true;
+  ThreadSafe const threadSafe;
   auto const churn = [&probe] {
     for (int i = 0; i < 20000; ++i) Ptr<Probe> const copy = probe;
   };
   std::thread other(churn);
   churn();
   other.join();
-  VFPtrInterface::enableThreadSafePointers = false;
   EXPECT_EQ(probe->references(), 1u);
 }
 

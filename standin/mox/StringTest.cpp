@@ -3,6 +3,7 @@
 #include "Mox/Name.h"
 #include "Mox/PtrInterface.h"
 #include "Mox/String8.h"
+#include "standin/mox/TestThreadSafe.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
@@ -16,12 +17,6 @@ namespace {
 
 bool isNullRecord(String8 const& text) { return &text.data() == &String8::nullStringData_; }
 U32 holders(String8 const& text) { return text.data().references.count(); }
-
-// Sets the thread-safety switch, for a scope.
-struct ThreadSafe {
-  ThreadSafe() { VFPtrInterface::enableThreadSafePointers = true; }
-  ~ThreadSafe() { VFPtrInterface::enableThreadSafePointers = false; }
-};
 
 TEST(StringTest, IsOnePointer) {
   EXPECT_EQ(sizeof(String8), sizeof(void*));
