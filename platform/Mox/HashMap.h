@@ -30,7 +30,7 @@ class HashMapIteratorGeneric {
 
  protected:
   explicit HashMapIteratorGeneric(HashMapGeneric const& map)
-      : map_(&map), stamp_(map.stamp()), walk_(map.walk()) {
+      : map_(&map), stamp_(map.stamp()), walk_(map.walkFrom()) {
     PtrInterface* const first = walk_.head();
     node_ = first ? first : walk_.nextHead();
   }
@@ -39,9 +39,8 @@ class HashMapIteratorGeneric {
   }
 
   // Steps on from the node, whose link holds `linked`: which tells something only in a map that
-  // hasn't changed, and is gone by only while counts are plain.  How it is written decides whether
-  // the loop around it keeps the walk in registers, and the common way in a row (bench_Maps,
-  // iterate).
+  // hasn't changed, and is gone by only while counts are plain.  How it is written decides whether the loop around it keeps the walk in
+  // registers, and the common way in a row (bench_Maps, iterate).
   [[gnu::always_inline]] void stepFrom(PtrInterface* linked) {
     if (map_->changes() != stamp_) [[unlikely]] {
       settle(map_->standBehind(node_.ptr()));
@@ -178,7 +177,7 @@ class HashMap : public HashMapGeneric {
     using difference_type = std::ptrdiff_t;
 
     RawIterator() = default;
-    explicit RawIterator(HashMap const& map) : walk_(map.walk()), node_(walk_.head()) {
+    explicit RawIterator(HashMap const& map) : walk_(map.walkFrom()), node_(walk_.head()) {
       if (!node_) node_ = walk_.nextHead();
     }
 

@@ -9,41 +9,25 @@ namespace Mox {
 
 /// A position among the buckets of a map, which steps in the order of the walk.  It is good as long
 /// as the map has the buckets that it had.
-///
-/// A walk counts buckets with their bits reversed.  The eight bits that run fastest are the top
-/// ones of a bucket's number: they are counted up in the top byte of a word, and reversed by a
-/// table.  The others, of maps with more than 256 buckets, run on once in 256 steps.
 class BucketWalk {
  public:
   using Link = Ptr<PtrInterface>;
 
   BucketWalk() = default;
-  /// On the first of two to the power of `log2` buckets.
-  BucketWalk(Link const* buckets, U32 log2) noexcept : base_(buckets) {
-    if (log2 > 8) [[unlikely]] {
-      rests_ = U32{1} << (log2 - 8);
-      log2 = 8;
-    }
-    step_ = (0x80000000 >> log2) << 1;
-  }
-  /// On the one that is stored under `bucket`.
-  BucketWalk(Link const* buckets, U32 log2, U32 bucket) noexcept;
+  /// On `bucket` of two to the power of `log2` buckets.
+  BucketWalk(Link const* buckets, U32 log2, U32 bucket = 0) noexcept
+      : buckets_(buckets), step_((0x80000000 >> log2) << 1), place_(bitReverse(bucket)) {}
 
   /// The bucket, as it is stored.
-  U32 bucket() const noexcept { return reversedBytes[top_ >> 24] * rests_ + rest_; }
-  /// Its first node; null where it is empty.
-  PtrInterface* head() const noexcept { return base_[reversedBytes[top_ >> 24] * rests_].ptr(); }
-  /// Steps to the next bucket; false behind the last one.
-  bool step() noexcept {
-    top_ += step_;
-    if (top_ != 0) [[likely]]
-      return true;
-    if (rest_ == rests_ - 1) return false;
-    U32 const next = restBehind(rest_, rests_);
-    base_ += static_cast<S32>(next - rest_);
-    rest_ = next;
-    return true;
+  U32 bucket() const noexcept {
+    if (place_ & 0xFFFFFF) [[unlikely]]
+      return bitReverse(place_);
+    return reversedBytes[place_ >> 24];
   }
+  /// Its first node; null where it is empty.
+  PtrInterface* head() const noexcept { return buckets_[bucket()].ptr(); }
+  /// Steps to the next bucket; false behind the last one.
+  bool step() noexcept { return (place_ += step_) != 0; }
   /// Steps to the next bucket that isn't empty, and returns its first node; null behind the last
   /// one.
   [[gnu::always_inline]] PtrInterface* nextHead() noexcept {
@@ -57,14 +41,11 @@ class BucketWalk {
   }
 
  private:
-  // The rest that follows one of `rests` that isn't the last.
-  static U32 restBehind(U32 rest, U32 rests) noexcept;
-
-  Link const* base_ = nullptr;  // the first bucket of this rest
-  U32 step_ = 0;                // of the top
-  U32 top_ = 0;
-  U32 rest_ = 0;
-  U32 rests_ = 1;  // a power of two
+  Link const* buckets_ = nullptr;
+  // What the walk counts up is the bucket's number with its bits reversed: its carry runs out of
+  // the word behind the last bucket.
+  U32 step_ = 0;
+  U32 place_ = 0;
 };
 
 /// Chains of counted nodes in a power of two of buckets.
@@ -125,10 +106,8 @@ class HashMapGeneric {
   PtrInterface* next(PtrInterface const* node) const noexcept { return linkOf(node).ptr(); }
   /// The head of a bucket.
   PtrInterface* head(U32 bucket) const noexcept { return buckets_[bucket].ptr(); }
-  /// A walk over the buckets.
-  BucketWalk walk() const noexcept { return {buckets_, log2Buckets_}; }
-  /// The same from a bucket on, as it is stored.
-  BucketWalk walkFrom(U32 bucket) const noexcept { return {buckets_, log2Buckets_, bucket}; }
+  /// A walk over the buckets that starts on one, as it is stored; on the first if it isn't told.
+  BucketWalk walkFrom(U32 bucket = 0) const noexcept { return {buckets_, log2Buckets_, bucket}; }
 
  protected:
   using Link = BucketWalk::Link;
@@ -143,7 +122,7 @@ class HashMapGeneric {
   /// walk: it matters where keys aren't ordered among each other.
   template <class Enter>
   void grow(Enter const& enter) {
-    BucketWalk walk = this->walk();
+    BucketWalk walk = walkFrom();
     Link* const old = doubledBuckets();
     do {
       for (Link at = std::move(old[walk.bucket()]); at;) {

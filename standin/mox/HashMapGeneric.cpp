@@ -26,20 +26,6 @@ U8 log2For(U32 size) noexcept {
 
 }  // namespace
 
-BucketWalk::BucketWalk(Link const* buckets, U32 log2, U32 bucket) noexcept
-    : BucketWalk(buckets, log2) {
-  rest_ = bucket & (rests_ - 1);
-  base_ += rest_;
-  top_ = U32{reversedBytes[bucket / rests_]} << 24;
-}
-
-// An increment whose carry runs downwards from the top bit.
-U32 BucketWalk::restBehind(U32 rest, U32 rests) noexcept {
-  U32 bit = rests >> 1;
-  for (; rest & bit; bit >>= 1) rest ^= bit;
-  return rest | bit;
-}
-
 HashMapGeneric::HashMapGeneric(U32 size)
     : log2Buckets_(log2For(size)), buckets_(newBuckets(log2Buckets_)) {}
 
