@@ -39,8 +39,9 @@ class HashMapIteratorGeneric {
   }
 
   // Steps on from the node, whose link holds `linked`: which tells something only in a map that
-  // hasn't changed, and is gone by only while counts are plain.  How it is written decides whether the loop around it keeps the walk in
-  // registers, and the common way in a row (bench_Maps, iterate).
+  // hasn't changed, and is gone by only while counts are plain.  How it is written decides whether
+  // the loop around it keeps the walk in registers, and the common way in a row (bench_Maps,
+  // iterate).
   [[gnu::always_inline]] void stepFrom(PtrInterface* linked) {
     if (map_->changes() != stamp_) [[unlikely]] {
       settle(map_->standBehind(node_.ptr()));
