@@ -20,6 +20,7 @@ class BucketWalk {
 
   /// The bucket, as it is stored.
   U32 bucket() const noexcept {
+    // Up to 256 buckets, which most maps have, only the top byte is counted.
     if (place_ & 0xFFFFFF) [[unlikely]]
       return bitReverse(place_);
     return reversedBytes[place_ >> 24];
