@@ -58,7 +58,9 @@ TEST_F(FecCountersTest, ZeroUnderANewKeyIsAnElement) {
 }
 
 TEST_F(FecCountersTest, DeletingAMissingKeyGivesZeroAndNoHook) {
+  U32 const version = fec->version();
   EXPECT_EQ(fec->fecSymbolErrorsDel(1), 0u);
+  EXPECT_EQ(fec->version(), version);
   EXPECT_EQ(watcher->heard, "");
 }
 

@@ -38,6 +38,7 @@ TEST_F(PhyXp80StatusTest, BaseGetsTheFirstFourParameters) {
 TEST_F(PhyXp80StatusTest, AddingToACounterIsNoWrite) {
   EXPECT_EQ(status->signalOkChangesInc(1), 1u);
   EXPECT_EQ(status->version(), 0u);
+  EXPECT_EQ(listener->heard, "signalOkChanges;");
   status->signalOkChangesIs(5);
   EXPECT_EQ(status->version(), 1u);
   EXPECT_EQ(listener->heard, "signalOkChanges;signalOkChanges;");

@@ -44,7 +44,7 @@ class HashMapIteratorGeneric {
   // iterate).
   [[gnu::always_inline]] void stepFrom(PtrInterface* linked) {
     if (map_->changes() != stamp_) [[unlikely]] {
-      settle(map_->standBehind(node_.ptr()));
+      settle(map_->standBehind(node_.ptr(), stamp_));
       return;
     }
     if (!linked) [[likely]]

@@ -65,8 +65,8 @@ class HashMapGeneric {
 
   /// Insertions and removals so far, modulo 2^32.
   U32 changes() const noexcept { return changes_; }
-  /// What a walk keeps to see whether it may go on by links alone: it equals `changes()` until the
-  /// map changes, and never does while counts are atomic.
+  /// What a walk keeps to see whether the map has changed.  While counts are plain it equals
+  /// `changes()`; while they are atomic it is half a round of the counter away.
   U32 stamp() const noexcept { return changes_ ^ (U32{ReferenceWord::threadSafe} << 31); }
   /// Elements.
   U32 count() const noexcept { return count_; }
@@ -96,8 +96,10 @@ class HashMapGeneric {
     PtrInterface* node;
     BucketWalk walk;
   };
-  /// What `findNextG` and `startAtHash` find.
-  Stand standBehind(PtrInterface const* node) const;
+  /// The step of a walk that stands on `node` and keeps `stamp`: by links if the map hasn't
+  /// changed, else what `findNextG` finds.
+  Stand standBehind(PtrInterface const* node, U32 stamp) const;
+  /// What `startAtHash` finds.
   Stand standAtHash(void const* key, U32 hash) const;
 
   /// Makes the bucket count `buckets`, rounded up to a power of two.  The map must be empty.

@@ -96,14 +96,15 @@ PtrInterface* HashMapGeneric::findNextG(PtrInterface const* node, int* bucket) c
     return findNextBucket(bucket);
   }
   *bucket = static_cast<int>(bitReverse(keys_->hash(node)) & mask());
-  for (PtrInterface* at = head(static_cast<U32>(*bucket)); at; at = next(at)) {
-    if (at == node) {
-      if (PtrInterface* const after = next(at)) return after;
-      break;
-    }
-    if (keys_->keyLessThan(nullptr, at, node)) return at;
-  }
-  return findNextBucket(bucket);
+  PtrInterface* const first = head(static_cast<U32>(*bucket));
+  // The order is asked only where the node is gone: two keys may each be less than the other.
+  PtrInterface* at = first;
+  while (at && at != node) at = next(at);
+  if (at)
+    at = next(at);
+  else
+    for (at = first; at && !keys_->keyLessThan(nullptr, at, node);) at = next(at);
+  return at ? at : findNextBucket(bucket);
 }
 
 PtrInterface* HashMapGeneric::startAtHash(void const* key, U32 hash, int* bucket) const {
@@ -113,7 +114,12 @@ PtrInterface* HashMapGeneric::startAtHash(void const* key, U32 hash, int* bucket
   return findNextBucket(bucket);
 }
 
-HashMapGeneric::Stand HashMapGeneric::standBehind(PtrInterface const* node) const {
+HashMapGeneric::Stand HashMapGeneric::standBehind(PtrInterface const* node, U32 stamp) const {
+  if (stamp == this->stamp()) {
+    BucketWalk walk = walkFrom(bitReverse(keys_->hash(node)) & mask());
+    PtrInterface* const linked = next(node);
+    return {linked ? linked : walk.nextHead(), walk};
+  }
   int bucket = -1;
   PtrInterface* const found = findNextG(node, &bucket);
   return {found, walkFrom(static_cast<U32>(bucket))};

@@ -1,6 +1,7 @@
 // Hash maps of all sorts of keys, and of objects that are their own nodes.
 #include "Mox/Name.h"
 #include "standin/mox/TestMaps.h"
+#include "standin/mox/TestThreadSafe.h"
 
 #include <gtest/gtest.h>
 
@@ -86,6 +87,38 @@ TEST(HashMapKeysTest, UnorderedKeysAreAllWalkedAfterAChange) {
   std::vector<U32> keys;
   for (; at; ++at) keys.push_back(at.key().number);
   EXPECT_EQ(list(keys), "3 1 2 9 8 7");
+}
+
+// Keys of which each is less than the other, as groups of tables can be.
+struct Contrary {
+  U32 number;
+  U32 hash() const { return 0; }
+  bool operator==(Contrary const&) const = default;
+  bool operator<(Contrary const& other) const { return !(*this == other); }
+};
+
+TEST(HashMapKeysTest, ContraryKeysAreWalkedByTheirLinks) {
+  using ContraryNode = MapNode<Contrary, bool>;
+  for (bool const atomic : {false, true}) {
+    ThreadSafe const threadSafe(atomic);
+    HashMap<ContraryNode, Contrary, bool> map(4);
+    for (U32 const number : {3, 1, 2}) map.newMember(new ContraryNode(Contrary{number}, true));
+    std::vector<U32> keys;
+    for (auto at = map.iterator(); at && keys.size() < 9; ++at) keys.push_back(at.key().number);
+    EXPECT_EQ(list(keys), "2 1 3") << atomic;
+  }
+}
+
+TEST(HashMapKeysTest, ContraryKeyThatIsThereIsLeftForwardsAfterAChange) {
+  using ContraryNode = MapNode<Contrary, bool>;
+  HashMap<ContraryNode, Contrary, bool> map(8);
+  for (U32 const number : {3, 1, 2}) map.newMember(new ContraryNode(Contrary{number}, true));
+  std::vector<U32> keys;
+  for (auto at = map.iterator(); at && keys.size() < 9; ++at) {
+    keys.push_back(at.key().number);
+    map.newMember(new ContraryNode(Contrary{10 + static_cast<U32>(keys.size())}, true));
+  }
+  EXPECT_EQ(list(keys), "2 1 3");
 }
 
 // Keys that all collide; in descending order each goes to the head of the one chain.

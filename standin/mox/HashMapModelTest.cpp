@@ -3,8 +3,10 @@
 #include "standin/mox/TestThreadSafe.h"
 
 #include <algorithm>
+#include <atomic>
 #include <gtest/gtest.h>
 #include <random>
+#include <thread>
 
 namespace Mox {
 namespace {
@@ -102,6 +104,23 @@ TEST_P(WalkModelTest, HoldsTheCurrentNodeAlone) {
   }
   EXPECT_FALSE(at);
   EXPECT_EQ(nodes.back()->references(), 1u);
+}
+
+TEST(WalkThreadsTest, TwoWalkersOfOneMapCountAtomically) {
+  Map map(4);
+  add(map, {1, 2, 3, 4});
+  ThreadSafe const threadSafe;
+  std::atomic<int> begun = 0;
+  auto const walk = [&map, &begun] {
+    for (++begun; begun < 2;) std::this_thread::yield();
+    for (int i = 0; i < 200000; ++i)
+      for (auto at = map.iterator(); at; ++at) {
+      }
+  };
+  std::thread other(walk);
+  walk();
+  other.join();
+  for (Node& node : map) EXPECT_EQ(node.references(), 1u);
 }
 
 // A bucket's number of more than eight bits is reversed by another way than a short one.
