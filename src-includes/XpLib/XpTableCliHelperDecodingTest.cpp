@@ -45,6 +45,11 @@ TEST(HashMemoryTest, EveryDivisionDropsItsRemainder) {
             " sram 0:0-2 sram 1:0-2 sram 2:0-2");
 }
 
+TEST(HashMemoryTest, EntriesOfAWayDropTheirRemainder) {
+  // 2,047 / 2 = 1,023 a way; 2 in a row; 511 rows: less than a block.
+  EXPECT_EQ(chunks(hash(2047, 128, 128, {{0, 4}, {1, 4}})), " sram 0:4-3 sram 1:4-3");
+}
+
 TEST(HashMemoryTest, SharedHasNoPart) {
   auto context = hash(8192, 64, 64, {{4, 0}, {5, 8}});
   context.shared = 1;
@@ -64,6 +69,14 @@ TEST(HashMemoryTest, EmptyTableMakesNoChunkAndIsTraced) {
   EXPECT_EQ(traces(entry), emptyTrace("Table 5 is empty"));
 }
 
+TEST(HashMemoryTest, TraceNamesTheCollectionsTable) {
+  XpXdk::TableContextEntry::PtrConst entry = table(5, "T", std::vector{hash(0, 64, 64, {{4, 0}})});
+  auto memory = tableMemCollectionFactory(9);
+  Traced traced;
+  updateTableMemoryPerCopy(memory, entry, 0);
+  EXPECT_EQ(traced.lines, emptyTrace("Table 9 is empty"));
+}
+
 TEST(HashMemoryTest, EmptyTableMayHaveAnyWidthsAndNoWay) {
   EXPECT_EQ(chunks(hash(0, 0, 300, {})), "");
 }
@@ -72,6 +85,14 @@ TEST(HashMemoryDeathTest, WideEntryNeedsAKeyOf256) {
   expectAssertion(
       [] {
         chunks(hash(8192, 128, 256, {{0, 0}}));
+      },
+      "context.keySize == (256)", updateSignature);
+}
+
+TEST(HashMemoryDeathTest, KeyIsLookedAtAheadOfTheValue) {
+  expectAssertion(
+      [] {
+        chunks(hash(8192, 300, 300, {{0, 0}}));
       },
       "context.keySize == (256)", updateSignature);
 }

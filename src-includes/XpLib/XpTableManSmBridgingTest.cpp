@@ -57,6 +57,36 @@ TEST(BridgingTablesTest, CopiesAreTheLowByteOfTheProfilesWord) {
   }
 }
 
+TEST(BridgingTablesTest, CopiesOfAllSingleTablesAreALowByte) {
+  for (U32 const id : {4u, 5u, 10u, 33u, 34u, 35u, 50u, 51u, 60u, 61u}) {
+    auto profile = fullProfile();
+    profile.tables[id].copyNum = 0x101;
+    Rig rig(profile);
+    rig.bringUp();
+    EXPECT_THAT(rig.lines,
+                Contains(testing::HasSubstr(" table=" + std::to_string(id) + " copies=1 ")));
+    if (id == 10) continue;  // isn't published
+    ASSERT_TRUE(rig.entry(id)) << id;
+    EXPECT_EQ(rig.entry(id)->tblCopyNum(), 1u) << id;
+  }
+}
+
+// What the manager got is what is published, whatever the profile says by then.
+TEST(BridgingTablesTest, ProfileIsReadOnce) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  rig.status->tableContextEntryDelAll();
+  auto& profile = const_cast<xpTableProfile&>(rig.sim.tableProfile(rig.deviceId));
+  rig.sim.callLogIs([&profile](std::string_view line) {
+    if (!line.starts_with("xpMdtMgr")) return;
+    profile.tblCtx[30] = nullptr;
+    profile.copyNum[30] = 0;
+  });
+  sm->doCreateMdtTable();
+  ASSERT_TRUE(rig.entry(30));
+  EXPECT_EQ(rig.entry(30)->tblCopyNum(), 1u);
+}
+
 TEST(BridgingTablesTest, NoCopiesGiveAnEntryWithoutContextSaveForTheNextHopTable) {
   for (Row const& row : rows) {
     if (row.id == 52) continue;
@@ -127,6 +157,17 @@ TEST(BridgingTablesDeathTest, NextHopTableMustHaveACopy) {
     expectAbort([&] { rig.bringUp(); },
                 assertion("nhTblCopyNum", "void Kestrel::TableManSm::doCreateNhTables()"));
   }
+}
+
+TEST(BridgingTablesDeathTest, NextHopTableWithoutCopyIsNotHandedOver) {
+  auto profile = fullProfile();
+  profile.tables[52].copyNum = 0;
+  Rig rig(profile);
+  rig.sim.callLogIs([](std::string_view line) {
+    if (line.starts_with("xpNhMgr")) fputs("handed over\n", stderr);
+  });
+  expectAbort([&] { rig.bringUp(); },
+              assertion("nhTblCopyNum", "void Kestrel::TableManSm::doCreateNhTables()"));
 }
 
 // The manager is asked for first.

@@ -78,6 +78,21 @@ TEST(MissingManagerDeathTest, SecondOfAPairIsAskedForBehindTheFirst) {
   expectLastCall("xpAcmBankMgr", "xpPortConfigMgr[0]::addDevice device=0 init=1 -> 0");
 }
 
+// Index 1 is asked for first, and leaves entry 0 zero: there is no manager of that id.
+TEST(MissingManagerDeathTest, PrefixManagersThatTheSdkHasNotNumbered) {
+  std::string const expected =
+      assertion("v6LpmMgr", "void Kestrel::TableManSm::doCreateLpmTables()");
+  {
+    Rig rig;
+    auto const sm = rig.bringUp();
+    rig.sim.idsDelAll("xpIpRouteLpmMgr");
+    expectAbort([&] { sm->doCreateLpmTables(); }, expected);
+  }
+  Rig rig;
+  rig.sim.idsDelAll("xpIpRouteLpmMgr");
+  expectAbort([&] { rig.bringUp(); }, expected);
+}
+
 TEST(MissingManagerDeathTest, ComesBeforeAMissingTable) {
   struct Row {
     char const* manager;

@@ -3,6 +3,7 @@
 #include "XpLib/XpTableManSmRigTest.h"
 
 #include <cstring>
+#include <stdexcept>
 
 namespace Kestrel::xpTableManSm {
 namespace {
@@ -101,6 +102,38 @@ TEST(TableManSmObjectTest, LetsGoOfThePlanAheadOfTheStatus) {
   EXPECT_EQ(book, Lines());
   sm = nullptr;
   EXPECT_EQ(book, (Lines{"plan", "status"}));
+}
+
+TEST(TableManSmObjectTest, IsMarkedForDeletionWhileItLetsGo) {
+  struct Watch : XpLib::Config::LpmTreadCfg::NotifieeConst {
+    void onZeroReferences() override {
+      word = sm->referenceWord();
+      notifierIs(nullptr);
+    }
+    TableManSm const* sm = nullptr;
+    U32 word = 0;
+  };
+  Rig rig(bareProfile());
+  Mox::Ptr<XpLib::Config::LpmTreadCfg> plan = new XpLib::Config::LpmTreadCfg("plan");
+  Mox::Ptr<Watch> const watch = new Watch;
+  watch->isWeakReferenceIs(true);
+  watch->notifierIs(plan);
+  watch->isRegisteredNotifieeIs(true);
+  auto sm = tableManSmFactory(0, rig.status, XpXdk::xpDeviceLdePipeMode3, true, plan);
+  watch->sm = sm.ptr();
+  plan = nullptr;
+  sm = nullptr;
+  EXPECT_EQ(watch->word & 0x80000000, 0x80000000);
+}
+
+TEST(TableManSmObjectTest, ExceptionInTheBringUpReleasesStatusAndPlan) {
+  Rig rig;
+  auto const held = rig.status->references();
+  auto const planHeld = rig.lpmTreadCfg->references();
+  rig.sim.callLogIs([](std::string_view) { throw std::runtime_error("no"); });
+  EXPECT_THROW(rig.bringUp(), std::runtime_error);
+  EXPECT_EQ(rig.status->references(), held);
+  EXPECT_EQ(rig.lpmTreadCfg->references(), planHeld);
 }
 
 // The slots of the virtual operations, read out of member pointers as the compiler lays them down.

@@ -161,6 +161,28 @@ TEST_F(PublicationTest, RepublishedTableIsWhatItIsNow) {
   EXPECT_EQ(rig.published<xpIsmeTableContext>(3).numOfEntries, 100u);
 }
 
+TEST_F(PublicationTest, NoCopiesLeaveThoseOfAnEarlierPublication) {
+  auto context = numbered<xpHashTableContext>(2);
+  publish(3, context, 2);
+  publish(3, context, 0);
+  EXPECT_EQ(rig.entry(3)->tblCopyNum(), 2u);
+}
+
+TEST_F(PublicationTest, IdsAreWrittenAheadOfTypeAndCopies) {
+  struct Order : XpXdk::TableContextEntry::NotifieeConst {
+    void onTableIdForMgr() override { seen += "idForMgr "; }
+    void onPlMgrId() override { seen += "mgrId "; }
+    void onTableType() override { seen += "type "; }
+    std::string seen;
+  };
+  Mox::Ptr<Order> const order = new Order;
+  order->notifierIs(rig.status->tableContextEntryIs(3, "TABLE"));
+  order->isRegisteredNotifieeIs(true);
+  auto context = numbered<xpHashTableContext>(2);
+  publish(3, context, 2);
+  EXPECT_EQ(order->seen, "idForMgr mgrId type ");
+}
+
 TEST_F(PublicationTest, TypeOfAllCopiesIsThatOfTheFirst) {
   auto context = numbered<xpHashTableContext>(2);
   context[1].tableType = 5;

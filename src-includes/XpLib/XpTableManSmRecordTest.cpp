@@ -27,6 +27,15 @@ TEST(TableManSmRecordTest, TakeDown) {
   EXPECT_EQ(records.texts(), Lines{"TableManSm::doPrepareToDie DeviceId 0"});
 }
 
+TEST(TableManSmRecordTest, WarmRestart) {
+  Rig rig;
+  auto const sm = rig.bringUp();
+  Records records;
+  sm->doVerifyOrCreateTables(true);
+  EXPECT_EQ(records.texts(),
+            Lines{"bool Kestrel::TableManSm::doVerifyOrCreateTables(bool) warmRestart 1"});
+}
+
 TEST(TableManSmRecordTest, ArgumentsOfAPublication) {
   Rig rig;
   auto const sm = rig.bringUp();
